@@ -1,0 +1,41 @@
+#pragma once
+
+#include "backend/Text.h"
+
+#include <QHashFunctions>
+
+#include <optional>
+
+namespace ardeo
+{
+
+/// One network service of the current set, as the adapter picker shows it.
+struct AdapterInfo {
+    /// The name the user knows the service by; also its identity.
+    Text serviceName;
+    /// The interface's display name; empty when there is no interface or it has no such name.
+    Text hardwareName{};
+    std::optional<Text> macAddress{};
+    std::optional<Text> bsdName{};
+    /// Whether the service holds at least one IPv4 address.
+    bool isActive = false;
+    bool isEnabled = false;
+    /// Megabits per second; known only while the link is up.
+    std::optional<qint64> linkSpeedMbps{};
+    /// Known only while the link is up.
+    std::optional<bool> fullDuplex{};
+
+    const Text& id() const { return serviceName; }
+    bool operator==(const AdapterInfo&) const = default;
+};
+
+inline size_t qHash(const AdapterInfo& adapter, size_t seed = 0)
+{
+    return qHashMulti(seed, adapter.serviceName, adapter.hardwareName, adapter.macAddress.has_value(),
+                      adapter.macAddress.value_or(Text()), adapter.bsdName.has_value(),
+                      adapter.bsdName.value_or(Text()), adapter.isActive, adapter.isEnabled,
+                      adapter.linkSpeedMbps.has_value(), adapter.linkSpeedMbps.value_or(0),
+                      adapter.fullDuplex.has_value(), adapter.fullDuplex.value_or(false));
+}
+
+} // namespace ardeo

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "backend/AdapterInfo.h"
+#include "backend/NetworkAdapterInfo.h"
+#include "platform/SystemConfiguration.h"
+
+#include <QFuture>
+#include <QThreadPool>
+
+namespace ardeo
+{
+
+/// The only part that touches the system's network configuration. Its operations run one after the other on a
+/// thread of its own, so that their blocking calls never hold up the caller; the futures finish there. Each
+/// operation opens what it needs of the system and releases it before it ends: nothing is cached.
+class NetworkConfigService
+{
+public:
+    /// What a write does with the service's DNS configuration.
+    enum class DNSHandling { replace, keep };
+
+    explicit NetworkConfigService(SystemConfiguration& system);
+    NetworkConfigService(const NetworkConfigService&) = delete;
+    NetworkConfigService& operator=(const NetworkConfigService&) = delete;
+    /// Waits for the operation that is running.
+    ~NetworkConfigService();
+
+    /// The services of the current set, active ones first, then by name. Empty when they cannot be read.
+    QFuture<QList<AdapterInfo>> listAdapters();
+    /// The service's configuration with its live state. What cannot be read is as in the empty record.
+    QFuture<NetworkAdapterInfo> currentConfig(const Text& serviceName);
+    /// Saves the record as the service's configuration and makes the system use it at once. The record's texts
+    /// are handed on as they are. Fails with ConfigError.
+    QFuture<void> writeConfiguration(const Text& serviceName, const NetworkAdapterInfo& configuration,
+                                     AuthorizationRef authorization, DNSHandling dns = DNSHandling::replace);
+    /// Switches the service on or off, also when it is so already. Fails with ConfigError.
+    QFuture<void> setServiceEnabled(bool enabled, const Text& serviceName, AuthorizationRef authorization);
+
+private:
+    template <typename Operation>
+    auto run(Operation operation);
+
+    SystemConfiguration& m_system;
+    QThreadPool m_thread;
+};
+
+} // namespace ardeo

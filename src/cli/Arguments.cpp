@@ -1,0 +1,196 @@
+#include "cli/Arguments.h"
+
+#include <QCommandLineParser>
+#include <QHash>
+
+namespace ardeo
+{
+
+namespace
+{
+
+using Command = Arguments::Command;
+
+struct CommandForm {
+    Command command;
+    /// What the command takes after its name; empty when nothing.
+    QString argument;
+    QStringList options;
+};
+
+const QStringList applyOptions{
+    QStringLiteral("dhcp"), QStringLiteral("address"), QStringLiteral("mask"),    QStringLiteral("router"),
+    QStringLiteral("dns"),  QStringLiteral("search"),  QStringLiteral("profile"),
+};
+
+const QHash<QString, CommandForm> commandForms{
+    {QStringLiteral("list"), {Command::list, {}, {QStringLiteral("json")}}},
+    {QStringLiteral("show"), {Command::show, QStringLiteral("SERVICE"), {QStringLiteral("json")}}},
+    {QStringLiteral("apply"), {Command::apply, QStringLiteral("SERVICE"), applyOptions}},
+    {QStringLiteral("renew"), {Command::renew, QStringLiteral("SERVICE"), {}}},
+    {QStringLiteral("enable"), {Command::enable, QStringLiteral("SERVICE"), {}}},
+    {QStringLiteral("disable"), {Command::disable, QStringLiteral("SERVICE"), {}}},
+    {QStringLiteral("profiles"), {Command::profiles, {}, {QStringLiteral("json")}}},
+    {QStringLiteral("profiles export"), {Command::exportProfiles, QStringLiteral("FILE"), {}}},
+};
+
+/// Reads what follows the command's name; the error's text is empty when all is well.
+QString takeWords(Arguments& arguments, QString& name, QStringList words)
+{
+    if (words.isEmpty())
+        return QStringLiteral("A command is missing; see ardeoctl --help.");
+    name = words.takeFirst();
+    if (name == QStringLiteral("profiles") && words.value(0) == QStringLiteral("export"))
+        name += u' ' + words.takeFirst();
+    const auto form = commandForms.constFind(name);
+    if (form == commandForms.constEnd())
+        return QStringLiteral("There is no command '%1'; see ardeoctl --help.").arg(name);
+    arguments.command = form->command;
+    if (!form->argument.isEmpty()) {
+        if (words.isEmpty())
+            return QStringLiteral("'%1' needs a %2.").arg(name, form->argument);
+        const QString word = words.takeFirst();
+        (form->command == Command::exportProfiles ? arguments.file : arguments.service) = word;
+    }
+    if (!words.isEmpty())
+        return QStringLiteral("'%1' takes no '%2'.").arg(name, words.first());
+    return {};
+}
+
+QString takeSystem(Arguments& arguments, const QCommandLineParser& parser)
+{
+    static const QHash<QString, Arguments::System> systems{
+        {QStringLiteral("auto"), Arguments::System::automatic},
+        {QStringLiteral("networkmanager"), Arguments::System::networkManager},
+        {QStringLiteral("simulated"), Arguments::System::simulated},
+    };
+    const auto system = systems.constFind(parser.value(QStringLiteral("system")));
+    if (system == systems.constEnd())
+        return QStringLiteral("--system is auto, networkmanager or simulated.");
+    arguments.system = *system;
+    if (parser.isSet(QStringLiteral("state"))) {
+        arguments.stateFile = parser.value(QStringLiteral("state"));
+        if (arguments.system != Arguments::System::simulated)
+            return QStringLiteral("--state goes with --system=simulated.");
+        if (arguments.stateFile->isEmpty())
+            return QStringLiteral("--state needs a file.");
+    }
+    return {};
+}
+
+QString takeSettings(Arguments& arguments, const QCommandLineParser& parser)
+{
+    const auto valueOf = [&parser](const QString& option) {
+        return parser.isSet(option) ? std::optional(parser.value(option)) : std::nullopt;
+    };
+    arguments.dhcp = parser.isSet(QStringLiteral("dhcp"));
+    arguments.address = valueOf(QStringLiteral("address"));
+    arguments.mask = valueOf(QStringLiteral("mask"));
+    arguments.router = valueOf(QStringLiteral("router"));
+    arguments.search = valueOf(QStringLiteral("search"));
+    arguments.profile = valueOf(QStringLiteral("profile"));
+    if (const auto dns = valueOf(QStringLiteral("dns"))) {
+        arguments.automaticDNS = *dns == QStringLiteral("auto");
+        if (!arguments.automaticDNS)
+            arguments.dns = dns->split(u',');
+    }
+
+    const bool addressed = arguments.address || arguments.mask || arguments.router;
+    if (arguments.profile && (arguments.dhcp || addressed || arguments.search || parser.isSet(QStringLiteral("dns"))))
+        return QStringLiteral("--profile brings all settings along and takes no others beside it.");
+    if (arguments.dhcp && addressed)
+        return QStringLiteral("--dhcp takes no --address, --mask or --router.");
+    if (addressed && !(arguments.address && arguments.mask))
+        return QStringLiteral("A manual address takes both --address and --mask.");
+    if (arguments.dns && arguments.dns->size() > 2)
+        return QStringLiteral("--dns takes two servers at most.");
+    if (arguments.automaticDNS && arguments.search && !arguments.search->trimmed().isEmpty())
+        return QStringLiteral("--search needs DNS servers of its own: automatic DNS keeps no search domains.");
+    return {};
+}
+
+} // namespace
+
+std::variant<Arguments, UsageError> parseArguments(const QStringList& commandLine)
+{
+    const QString text = QStringLiteral("TEXT");
+    QCommandLineParser parser;
+    parser.addOptions({
+        {QStringLiteral("system"), {}, text, QStringLiteral("auto")},
+        {QStringLiteral("state"), {}, text},
+        {QStringLiteral("json"), {}},
+        {QStringLiteral("dhcp"), {}},
+        {QStringLiteral("address"), {}, text},
+        {QStringLiteral("mask"), {}, text},
+        {QStringLiteral("router"), {}, text},
+        {QStringLiteral("dns"), {}, text},
+        {QStringLiteral("search"), {}, text},
+        {QStringLiteral("profile"), {}, text},
+        {{QStringLiteral("h"), QStringLiteral("help")}, {}},
+        {{QStringLiteral("v"), QStringLiteral("version")}, {}},
+    });
+    if (!parser.parse(commandLine))
+        return UsageError{parser.errorText()};
+
+    Arguments arguments;
+    QString error = takeSystem(arguments, parser);
+    if (!error.isEmpty())
+        return UsageError{error};
+    if (parser.isSet(QStringLiteral("help")))
+        return arguments;
+    if (parser.isSet(QStringLiteral("version"))) {
+        arguments.command = Command::version;
+        return arguments;
+    }
+    QString name;
+    error = takeWords(arguments, name, parser.positionalArguments());
+    if (!error.isEmpty())
+        return UsageError{error};
+    const QStringList allowed = commandForms.value(name).options;
+    for (const QString& option : applyOptions + QStringList(QStringLiteral("json"))) {
+        if (parser.isSet(option) && !allowed.contains(option))
+            return UsageError{QStringLiteral("'%1' takes no --%2.").arg(name, option)};
+    }
+    arguments.json = parser.isSet(QStringLiteral("json"));
+    error = takeSettings(arguments, parser);
+    if (!error.isEmpty())
+        return UsageError{error};
+    return arguments;
+}
+
+QString helpText()
+{
+    return QStringLiteral(R"(Usage: ardeoctl [--system=SYSTEM] [--state=FILE] COMMAND
+
+Switches the IPv4 and DNS settings of this computer's network services.
+
+Commands:
+  list [--json]                 the network services, connected ones first
+  show SERVICE [--json]         the settings and the state of one service
+  apply SERVICE [SETTINGS]      change a service; what is not named keeps its present value
+  apply SERVICE --profile=NAME  the same with the settings of a saved profile
+  renew SERVICE                 put the service on DHCP and take a new lease
+  enable SERVICE                switch the service on
+  disable SERVICE               switch the service off, and keep it off
+  profiles [--json]             the saved profiles
+  profiles export FILE          write them to a file
+
+Settings:
+  --dhcp                        take the address from the network
+  --address=A --mask=M          a manual address with its dotted mask ...
+  --router=R                    ... and its gateway; --router= for none
+  --dns=auto                    take the DNS servers from the network
+  --dns=A[,B]                   DNS servers set by hand
+  --search="D D"                search domains, with DNS servers set by hand
+
+Systems:
+  --system=auto                 NetworkManager where it is running (the default)
+  --system=networkmanager       this computer
+  --system=simulated            a simulated machine, for trying things out
+  --state=FILE                  the file that the simulated machine lives in
+
+Exit status: 0 when done, 1 when it failed (the reason is on standard error), 2 for wrong usage.
+)");
+}
+
+} // namespace ardeo

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QStringList>
+
+#include <optional>
+#include <variant>
+
+namespace ardeo
+{
+
+/// What a command line asks for.
+struct Arguments {
+    enum class System { automatic, networkManager, simulated };
+    enum class Command { help, version, list, show, apply, renew, enable, disable, profiles, exportProfiles };
+
+    System system = System::automatic;
+    /// The simulated machine's file, where one is named.
+    std::optional<QString> stateFile;
+    Command command = Command::help;
+    bool json = false;
+    /// The service's name, for the commands that take one.
+    QString service;
+    /// Where to export to.
+    QString file;
+
+    // What an apply names; everything else keeps its present value.
+    std::optional<QString> profile;
+    bool dhcp = false;
+    std::optional<QString> address;
+    std::optional<QString> mask;
+    std::optional<QString> router;
+    bool automaticDNS = false;
+    /// One or two servers, each possibly empty.
+    std::optional<QStringList> dns;
+    std::optional<QString> search;
+};
+
+/// Wrong usage, as the one line that says what is wrong.
+struct UsageError {
+    QString message;
+};
+
+/// Reads a command line, the program's name included.
+std::variant<Arguments, UsageError> parseArguments(const QStringList& commandLine);
+
+/// What --help prints.
+QString helpText();
+
+} // namespace ardeo

@@ -1,0 +1,221 @@
+#include "cli/Output.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cwchar>
+
+namespace ardeo
+{
+
+namespace
+{
+
+using Json = nlohmann::ordered_json;
+
+enum class Tint { none, strong, faint, good };
+
+struct Cell {
+    QString text;
+    Tint tint = Tint::none;
+};
+using Row = QList<Cell>;
+
+/// Columns that the text takes on a terminal.
+int displayWidth(const QString& text)
+{
+    int width = 0;
+    for (const uint scalar : text.toUcs4()) {
+        const int own = wcwidth(static_cast<wchar_t>(scalar));
+        width += own < 0 ? 1 : own;
+    }
+    return width;
+}
+
+/// The text without characters that would steer the terminal.
+QString printable(QString text)
+{
+    for (QChar& c : text) {
+        if (c.category() == QChar::Other_Control)
+            c = u'?';
+    }
+    return text;
+}
+
+QString tinted(const QString& text, Tint tint, bool colour)
+{
+    static constexpr std::array codes{"", "\033[1m", "\033[2m", "\033[32m"};
+    if (!colour || tint == Tint::none)
+        return text;
+    return QLatin1String(codes.at(static_cast<size_t>(tint))) + text + QStringLiteral("\033[0m");
+}
+
+QString table(QList<Row> rows, bool colour)
+{
+    QList<int> widths;
+    for (Row& row : rows) {
+        widths.resize(std::max(widths.size(), row.size()));
+        for (qsizetype column = 0; column < row.size(); ++column) {
+            row[column].text = printable(row[column].text);
+            widths[column] = std::max(widths[column], displayWidth(row[column].text));
+        }
+    }
+    QString text;
+    for (const Row& row : rows) {
+        for (qsizetype column = 0; column < row.size(); ++column) {
+            const Cell& cell = row[column];
+            text += tinted(cell.text, cell.tint, colour);
+            if (column + 1 < row.size())
+                text += QString(widths[column] - displayWidth(cell.text) + 2, u' ');
+        }
+        text += u'\n';
+    }
+    return text;
+}
+
+QString orDash(const QString& text)
+{
+    return text.isEmpty() ? QStringLiteral("—") : text;
+}
+
+Cell stateOf(const AdapterInfo& adapter)
+{
+    if (adapter.isActive)
+        return {QStringLiteral("connected"), Tint::good};
+    return {adapter.isEnabled ? QStringLiteral("disconnected") : QStringLiteral("disabled"), Tint::faint};
+}
+
+QString linkOf(const AdapterInfo& adapter)
+{
+    QStringList words;
+    if (const auto speed = adapter.linkSpeedMbps)
+        words << (*speed % 1000 == 0 ? QStringLiteral("%1 Gb/s").arg(*speed / 1000) : QStringLiteral("%1 Mb/s").arg(*speed));
+    if (adapter.fullDuplex)
+        words << (*adapter.fullDuplex ? QStringLiteral("full-duplex") : QStringLiteral("half-duplex"));
+    return words.join(u' ');
+}
+
+Json textAsJson(const std::optional<Text>& text)
+{
+    return text ? Json(text->string().toStdString()) : Json();
+}
+
+template <typename Value>
+Json valueAsJson(const std::optional<Value>& value)
+{
+    return value ? Json(*value) : Json();
+}
+
+QByteArray printed(const Json& json)
+{
+    return QByteArray::fromStdString(json.dump(2, ' ', false, Json::error_handler_t::replace)) + '\n';
+}
+
+} // namespace
+
+QString adaptersAsTable(const QList<AdapterInfo>& adapters, bool colour)
+{
+    if (adapters.isEmpty())
+        return QStringLiteral("No network services.\n");
+    QList<Row> rows{{
+        {QStringLiteral("SERVICE"), Tint::faint},
+        {QStringLiteral("STATE"), Tint::faint},
+        {QStringLiteral("DEVICE"), Tint::faint},
+        {QStringLiteral("HARDWARE ADDRESS"), Tint::faint},
+        {QStringLiteral("LINK"), Tint::faint},
+        {QStringLiteral("HARDWARE"), Tint::faint},
+    }};
+    for (const AdapterInfo& adapter : adapters) {
+        rows.append({{adapter.serviceName, Tint::strong},
+                     stateOf(adapter),
+                     {orDash(adapter.bsdName.value_or(Text()))},
+                     {orDash(adapter.macAddress.value_or(Text()))},
+                     {orDash(linkOf(adapter))},
+                     {orDash(adapter.hardwareName)}});
+    }
+    return table(rows, colour);
+}
+
+QString configurationAsTable(const AdapterInfo& adapter, const NetworkAdapterInfo& configuration, bool colour)
+{
+    const bool automatic = configuration.dnsMode == DNSMode::automatic;
+    const QStringList domains(configuration.searchDomains.begin(), configuration.searchDomains.end());
+    const QList<std::pair<QString, Cell>> fields{
+        {QStringLiteral("State:"), stateOf(adapter)},
+        {QStringLiteral("Mode:"), {rawValue(configuration.ipv4Mode)}},
+        {QStringLiteral("IP Address:"), {orDash(configuration.ipAddress)}},
+        {QStringLiteral("Subnet Mask:"), {orDash(configuration.subnetMask)}},
+        {QStringLiteral("Gateway:"), {orDash(configuration.router)}},
+        {QStringLiteral("DNS:"), {rawValue(configuration.dnsMode)}},
+        {QStringLiteral("Preferred DNS:"), {orDash(configuration.primaryDNS)}},
+        {QStringLiteral("Alternate DNS:"), {orDash(configuration.alternateDNS)}},
+        {QStringLiteral("Search Domains:"), {orDash(automatic ? QString() : domains.join(u' '))}},
+        {QStringLiteral("DHCP Server:"), {orDash(configuration.dhcpServer)}},
+        {QStringLiteral("Computer Name:"), {orDash(configuration.computerName)}},
+    };
+    QList<Row> rows;
+    for (const auto& [label, value] : fields)
+        rows.append({{label, Tint::faint}, value});
+    return tinted(printable(adapter.serviceName), Tint::strong, colour) + u'\n' + table(rows, colour);
+}
+
+QString presetsAsTable(const QList<NetworkPreset>& presets, bool colour)
+{
+    if (presets.isEmpty())
+        return QStringLiteral("No saved profiles.\n");
+    QList<Row> rows{{
+        {QStringLiteral("PROFILE"), Tint::faint},
+        {QStringLiteral("SERVICE"), Tint::faint},
+        {QStringLiteral("IPV4"), Tint::faint},
+        {QStringLiteral("DNS"), Tint::faint},
+    }};
+    for (const NetworkPreset& preset : presets) {
+        const bool manual = preset.ipv4Mode == IPv4Mode::manual;
+        QStringList servers{preset.primaryDNS, preset.alternateDNS};
+        servers.removeAll(QString());
+        rows.append({{preset.name, Tint::strong},
+                     {preset.serviceName},
+                     {manual ? preset.ipAddress.string() : rawValue(preset.ipv4Mode)},
+                     {preset.dnsMode == DNSMode::manual ? servers.join(u' ') : rawValue(preset.dnsMode)}});
+    }
+    return table(rows, colour);
+}
+
+QByteArray adaptersAsJson(const QList<AdapterInfo>& adapters)
+{
+    Json array = Json::array();
+    for (const AdapterInfo& adapter : adapters) {
+        array.push_back({
+            {"serviceName", textAsJson(adapter.serviceName)},
+            {"hardwareName", textAsJson(adapter.hardwareName)},
+            {"macAddress", textAsJson(adapter.macAddress)},
+            {"bsdName", textAsJson(adapter.bsdName)},
+            {"isActive", adapter.isActive},
+            {"isEnabled", adapter.isEnabled},
+            {"linkSpeedMbps", valueAsJson(adapter.linkSpeedMbps)},
+            {"fullDuplex", valueAsJson(adapter.fullDuplex)},
+        });
+    }
+    return printed(array);
+}
+
+QByteArray configurationAsJson(const NetworkAdapterInfo& configuration)
+{
+    Json domains = Json::array();
+    for (const Text& domain : configuration.searchDomains)
+        domains.push_back(textAsJson(domain));
+    return printed({
+        {"ipv4Mode", textAsJson(rawValue(configuration.ipv4Mode))},
+        {"ipAddress", textAsJson(configuration.ipAddress)},
+        {"subnetMask", textAsJson(configuration.subnetMask)},
+        {"router", textAsJson(configuration.router)},
+        {"dnsMode", textAsJson(rawValue(configuration.dnsMode))},
+        {"primaryDNS", textAsJson(configuration.primaryDNS)},
+        {"alternateDNS", textAsJson(configuration.alternateDNS)},
+        {"searchDomains", domains},
+        {"dhcpServer", textAsJson(configuration.dhcpServer)},
+        {"computerName", textAsJson(configuration.computerName)},
+    });
+}
+
+} // namespace ardeo

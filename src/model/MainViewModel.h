@@ -1,0 +1,102 @@
+#pragma once
+
+#include "backend/AuthorizationService.h"
+#include "backend/NetworkConfigService.h"
+#include "model/Observed.h"
+#include "platform/Platform.h"
+#include "store/NetworkPresetStore.h"
+
+#include <QCoroTask>
+
+#include <memory>
+
+namespace ardeo
+{
+
+/// The one object behind every window, menu and command: the network services, the selection, what was last
+/// read of the selected service, the form that is edited and written, and the feedback on the running action.
+///
+/// Main thread only. The asynchronous operations leave the main thread only while the service works, may
+/// overlap, and keep the model alive until they have ended. None of them fails: what goes wrong is in
+/// applyError.
+class MainViewModel final : public std::enable_shared_from_this<MainViewModel>
+{
+    struct Key {
+    };
+
+public:
+    /// A model over the platform, which has to outlive it.
+    static std::shared_ptr<MainViewModel> create(Platform& platform);
+    MainViewModel(Key, Platform& platform);
+
+    Observed<QList<AdapterInfo>> adapters;
+    Observed<std::optional<AdapterInfo>> selectedAdapter;
+    /// What was last read of the selected service. Tells its observers of every assignment.
+    Observed<NetworkAdapterInfo> currentConfig;
+
+    // The form.
+    Observed<IPv4Mode> ipv4Mode{IPv4Mode::dhcp};
+    Observed<Text> ipAddress;
+    Observed<Text> subnetMask;
+    Observed<Text> router;
+    Observed<DNSMode> dnsMode{DNSMode::automatic};
+    Observed<Text> primaryDNS;
+    Observed<Text> alternateDNS;
+    /// Domains separated by white space.
+    Observed<Text> searchDomains;
+
+    /// A flag, not a counter: of operations that overlap, the first to end clears it. So is isApplying.
+    Observed<bool> isLoading{false};
+    Observed<bool> isApplying{false};
+    /// The last failed action's sentence for the user.
+    Observed<std::optional<Text>> applyError;
+    Observed<bool> applySuccess{false};
+    Observed<bool> isLoginItem;
+
+    /// Whether the form differs from what was last read; the search domains are not compared.
+    bool hasChanges() const;
+
+    /// Lists the services; selects the first active one, else the first one, where none is selected yet; and
+    /// reads the selected one.
+    QCoro::Task<> loadAdapters();
+    /// Lists the services again and reads the selected one, if it is still there.
+    QCoro::Task<> refreshAdapters();
+    QCoro::Task<> selectAdapter(AdapterInfo adapter);
+    /// Reads the service and fills the form with what it finds.
+    QCoro::Task<> loadCurrentConfig(AdapterInfo adapter);
+
+    void populateForm(const NetworkAdapterInfo& configuration);
+    /// Fills the form from a profile; nothing is written to the system.
+    void loadPreset(const NetworkPreset& preset);
+    /// Fills the form with what was last read.
+    void revertForm();
+
+    /// Writes the form to the selected service, reads it again after a second, and once more three seconds later.
+    QCoro::Task<> applyConfiguration();
+    /// Puts the selected service on DHCP, which takes a new lease; its DNS configuration and the form's edits
+    /// have no part in it. Reads it again as after an apply.
+    QCoro::Task<> renewDHCPLease();
+    /// Switches the selected service on or off, and reads it again after half a second.
+    QCoro::Task<> setAdapterEnabled(bool enabled);
+
+    /// Saves the form as a new profile of the selected service; does nothing where none is selected.
+    void savePreset(const Text& name);
+
+private:
+    Platform& m_platform;
+
+public:
+    NetworkConfigService configService;
+    AuthorizationService authService;
+    NetworkPresetStore presetStore;
+
+private:
+    using DNSHandling = NetworkConfigService::DNSHandling;
+
+    QCoro::Task<> write(NetworkAdapterInfo configuration, DNSHandling dns);
+    void beginAction();
+    void failAction(const QString& description);
+    QCoro::Task<> scheduleFollowUpRefresh();
+};
+
+} // namespace ardeo

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/SystemConfiguration.h"
+
+namespace ardeo
+{
+
+/// How a right is asked for; flags to be combined.
+enum AuthorizationFlags : quint32 {
+    authorizationDefaults = 0,
+    interactionAllowed = 1,
+    extendRights = 2,
+    preAuthorize = 16,
+};
+
+/// The system's authorization service. Used from the main thread, which waits while a prompt is shown.
+class Authorization
+{
+public:
+    virtual ~Authorization() = default;
+    /// A new handle without any right; none when the service is not there.
+    virtual std::optional<AuthorizationRef> create() = 0;
+    /// Obtains the right for the handle, asking the user where that is needed and allowed; false when it is
+    /// refused or the user cancels.
+    virtual bool copyRights(AuthorizationRef authorization, const QString& right, quint32 flags) = 0;
+    /// Gives the handle up, and the consent that was obtained through it.
+    virtual void free(AuthorizationRef authorization, quint32 flags) = 0;
+};
+
+} // namespace ardeo

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QFuture>
+
+#include <chrono>
+
+namespace ardeo
+{
+
+/// Time, so that a test can drive it by hand. Used from the main thread.
+class Clock
+{
+public:
+    virtual ~Clock() = default;
+    /// Time since some fixed moment; goes on while the machine sleeps, and is never set back.
+    virtual std::chrono::nanoseconds continuousTime() const = 0;
+    /// Finishes when that much continuous time has passed; cancelling it ends the wait early.
+    virtual QFuture<void> sleep(std::chrono::milliseconds duration) = 0;
+};
+
+} // namespace ardeo

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/UserDefaults.h"
+
+#include <QDir>
+
+namespace ardeo
+{
+
+/// User defaults as one file per key in a folder of their own, readable for their owner alone.
+class FileUserDefaults final : public UserDefaults
+{
+public:
+    explicit FileUserDefaults(const QDir& folder);
+    std::optional<QByteArray> data(const QString& key) const override;
+    void set(const QByteArray& data, const QString& key) override;
+
+private:
+    QDir m_folder;
+};
+
+} // namespace ardeo

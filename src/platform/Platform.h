@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/Authorization.h"
+#include "platform/Clock.h"
+#include "platform/LoginItem.h"
+#include "platform/SystemConfiguration.h"
+#include "platform/UserDefaults.h"
+
+#include <functional>
+
+namespace ardeo
+{
+
+/// Everything the program needs of the operating system, and the only thing that differs between the real
+/// machine and the simulated one. It outlives whoever uses it.
+struct Platform {
+    std::unique_ptr<SystemConfiguration> systemConfiguration;
+    std::unique_ptr<Authorization> authorization;
+    std::unique_ptr<LoginItem> loginItem;
+    std::unique_ptr<UserDefaults> userDefaults;
+    std::unique_ptr<Clock> clock;
+    /// Says which system this is, for people.
+    QString description;
+    /// Why the system could not be reached the last time it was asked, as a sentence; none when it answered.
+    std::function<std::optional<QString>()> trouble = [] { return std::nullopt; };
+};
+
+/// What the program is called wherever the system wants a unique name for it.
+inline constexpr auto applicationIdentifier = "org.ardeo.IPConfig";
+
+} // namespace ardeo

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace ardeo
+{
+
+/// The user's own preferences: a byte string for each key. Used from the main thread.
+class UserDefaults
+{
+public:
+    virtual ~UserDefaults() = default;
+    /// None where nothing was stored or it cannot be read.
+    virtual std::optional<QByteArray> data(const QString& key) const = 0;
+    /// On disk when it returns. Where that cannot be had, what was stored before stays whole.
+    virtual void set(const QByteArray& data, const QString& key) = 0;
+};
+
+} // namespace ardeo

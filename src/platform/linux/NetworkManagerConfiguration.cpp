@@ -1,0 +1,46 @@
+#include "platform/linux/NetworkManagerConfiguration.h"
+
+#include "platform/linux/NetworkManagerPreferences.h"
+#include "platform/linux/NetworkManagerState.h"
+
+namespace ardeo
+{
+
+std::shared_ptr<NetworkManagerSession> NetworkManagerConfiguration::session()
+{
+    auto session = m_session.lock();
+    if (!session) {
+        session = std::make_shared<NetworkManagerSession>(m_presence);
+        m_session = session;
+    }
+    return session;
+}
+
+std::unique_ptr<Preferences> NetworkManagerConfiguration::createPreferences(const QString& /*name*/)
+{
+    auto current = session();
+    m_status = current->client() ? SystemStatus::ok : SystemStatus::noStoreServer;
+    if (m_status != SystemStatus::ok)
+        return nullptr;
+    return std::make_unique<NetworkManagerPreferences>(std::move(current), m_status, false);
+}
+
+std::unique_ptr<Preferences>
+NetworkManagerConfiguration::createPreferencesWithAuthorization(const QString& /*name*/,
+                                                                AuthorizationRef /*authorization*/)
+{
+    auto current = session();
+    m_status = current->client() ? SystemStatus::ok : SystemStatus::noStoreServer;
+    if (m_status != SystemStatus::ok)
+        return nullptr;
+    return std::make_unique<NetworkManagerPreferences>(std::move(current), m_status, true);
+}
+
+std::unique_ptr<DynamicStore> NetworkManagerConfiguration::createDynamicStore(const QString& /*name*/)
+{
+    // The computer's name can be told without the daemon, so there is always a handle.
+    m_status = SystemStatus::ok;
+    return std::make_unique<NetworkManagerState>(session());
+}
+
+} // namespace ardeo

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/SystemConfiguration.h"
+#include "platform/linux/GLibLoop.h"
+#include "platform/linux/LibNM.h"
+
+#include <atomic>
+
+namespace ardeo
+{
+
+/// How NetworkManager was found the last time.
+enum class DaemonPresence { answers, absent, silent };
+
+/// One operation's view of NetworkManager: a consistent snapshot of what it knows, and the one deadline for all
+/// calls that the operation makes.
+class NetworkManagerSession
+{
+public:
+    /// What it finds out about the daemon's presence is stored in presence.
+    explicit NetworkManagerSession(std::atomic<DaemonPresence>& presence);
+    NetworkManagerSession(const NetworkManagerSession&) = delete;
+    NetworkManagerSession& operator=(const NetworkManagerSession&) = delete;
+    ~NetworkManagerSession();
+
+    /// The daemon's objects; null when it is not there or does not answer in time. Asks once.
+    NMClient* client();
+    /// Takes a new snapshot, because time has passed; null as above.
+    NMClient* reconnect();
+
+    GLibLoop& loop() { return m_loop; }
+    QDeadlineTimer deadline() const { return m_deadline; }
+    /// Lets the operation take that much longer, in milliseconds: it had to wait for somebody else.
+    void extendDeadline(qint64 milliseconds) { m_deadline += milliseconds; }
+    /// From now on the operation may wait for a person, and so for ever.
+    void removeDeadline() { m_deadline = QDeadlineTimer(QDeadlineTimer::Forever); }
+
+private:
+    void disconnect();
+
+    std::atomic<DaemonPresence>& m_presence;
+    GLibLoop m_loop;
+    QDeadlineTimer m_deadline;
+    GRef<NMClient> m_client;
+    bool m_asked = false;
+};
+
+/// Asks the daemon for a sign of life, for at most that many milliseconds.
+DaemonPresence probeNetworkManager(int milliseconds);
+
+} // namespace ardeo

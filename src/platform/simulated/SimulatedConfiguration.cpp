@@ -1,0 +1,370 @@
+#include "platform/simulated/SimulatedConfiguration.h"
+
+#include "platform/ProtocolConfiguration.h"
+
+#include <QLockFile>
+
+#include <utility>
+
+namespace ardeo
+{
+
+namespace
+{
+
+/// A service as the handle saw it, and what was set for it since.
+struct ServiceRecord {
+    Json seen;
+    std::optional<Dictionary> ipv4;
+    std::optional<Dictionary> dns;
+    std::optional<bool> enabled;
+    bool committed = false;
+
+    bool isChanged() const { return ipv4 || dns || enabled; }
+};
+
+/// What a commit must find unchanged; the live state may move on its own.
+bool hasSameSettings(const Json& one, const Json& other)
+{
+    const auto same = [&](const char* key) {
+        const Json* a = member(one, key);
+        const Json* b = member(other, key);
+        return a && b ? *a == *b : a == b;
+    };
+    return same("enabled") && same("protocols");
+}
+
+class SimulatedInterface final : public NetworkInterface
+{
+public:
+    explicit SimulatedInterface(Json interface) : m_interface(std::move(interface)) {}
+    std::optional<QString> bsdName() const override { return textMember(m_interface, "bsdName"); }
+    std::optional<QString> hardwareAddressString() const override { return textMember(m_interface, "macAddress"); }
+    std::optional<QString> localizedDisplayName() const override { return textMember(m_interface, "hardwareName"); }
+
+private:
+    Json m_interface;
+};
+
+class SimulatedProtocol final : public NetworkProtocol
+{
+public:
+    using Pending = std::optional<Dictionary> ServiceRecord::*;
+    SimulatedProtocol(std::shared_ptr<ServiceRecord> record, const char* type, Pending pending)
+        : m_record(std::move(record))
+        , m_type(type)
+        , m_pending(pending)
+    {
+    }
+    std::optional<QVariant> configuration() const override
+    {
+        const auto& pending = (*m_record).*m_pending;
+        if (pending)
+            return *pending;
+        const Json* protocols = member(m_record->seen, "protocols");
+        const Json* configuration = protocols ? member(*protocols, m_type) : nullptr;
+        return configuration ? std::optional(valueFromJson(*configuration)) : std::nullopt;
+    }
+    bool setConfiguration(const Dictionary& configuration) override
+    {
+        (*m_record).*m_pending = configuration;
+        return true;
+    }
+
+private:
+    std::shared_ptr<ServiceRecord> m_record;
+    const char* m_type;
+    Pending m_pending;
+};
+
+class SimulatedService final : public NetworkService
+{
+public:
+    explicit SimulatedService(std::shared_ptr<ServiceRecord> record) : m_record(std::move(record)) {}
+    std::optional<QString> name() const override { return textMember(m_record->seen, "name"); }
+    std::optional<QString> serviceID() const override { return textMember(m_record->seen, "id"); }
+    bool isEnabled() const override { return m_record->enabled.value_or(flagMember(m_record->seen, "enabled", true)); }
+    bool setEnabled(bool enabled) override
+    {
+        m_record->enabled = enabled;
+        return true;
+    }
+    std::shared_ptr<NetworkInterface> interface() const override
+    {
+        const Json* interface = member(m_record->seen, "interface");
+        return interface ? std::make_shared<SimulatedInterface>(*interface) : nullptr;
+    }
+    std::shared_ptr<NetworkProtocol> protocol(const QString& type) const override
+    {
+        const Json* protocols = member(m_record->seen, "protocols");
+        const bool hasIPv4 = protocols && member(*protocols, "IPv4");
+        if (type == QStringLiteral("IPv4") && hasIPv4)
+            return std::make_shared<SimulatedProtocol>(m_record, "IPv4", &ServiceRecord::ipv4);
+        if (type == QStringLiteral("DNS") && protocols && member(*protocols, "DNS"))
+            return std::make_shared<SimulatedProtocol>(m_record, "DNS", &ServiceRecord::dns);
+        return nullptr;
+    }
+
+private:
+    std::shared_ptr<ServiceRecord> m_record;
+};
+
+class SimulatedSet final : public NetworkSet
+{
+public:
+    explicit SimulatedSet(std::optional<std::vector<std::shared_ptr<NetworkService>>> services)
+        : m_services(std::move(services))
+    {
+    }
+    std::optional<std::vector<std::shared_ptr<NetworkService>>> services() const override { return m_services; }
+
+private:
+    std::optional<std::vector<std::shared_ptr<NetworkService>>> m_services;
+};
+
+class SimulatedPreferences final : public Preferences
+{
+public:
+    SimulatedPreferences(const SimulatedMachine& machine, Json snapshot, SystemStatus& status, bool authorized)
+        : m_machine(machine)
+        , m_status(status)
+        , m_authorized(authorized)
+        , m_lock(machine.file() + QStringLiteral(".lock"))
+    {
+        // A holder that still runs is never taken for dead, however long it takes.
+        m_lock.setStaleLockTime(0);
+        take(snapshot);
+    }
+
+    std::shared_ptr<NetworkSet> currentSet() override
+    {
+        m_status = SystemStatus::ok;
+        if (!m_records)
+            return std::make_shared<SimulatedSet>(std::nullopt);
+        std::vector<std::shared_ptr<NetworkService>> services;
+        for (const auto& record : *m_records)
+            services.push_back(std::make_shared<SimulatedService>(record));
+        return std::make_shared<SimulatedSet>(std::move(services));
+    }
+
+    bool lock(bool wait) override
+    {
+        if (!m_authorized)
+            return end(SystemStatus::accessError);
+        if (m_lock.isLocked())
+            return end(SystemStatus::locked);
+        if (!m_lock.tryLock(0)) {
+            if (m_lock.error() != QLockFile::LockFailedError)
+                return end(SystemStatus::noPreferencesSession);
+            if (!wait)
+                return end(SystemStatus::preferencesBusy);
+            if (!m_lock.lock())
+                return end(SystemStatus::failed);
+            // What the holder before us wrote is what we have to start from.
+            take(m_machine.read().value_or(Json()));
+        }
+        const auto machine = m_machine.read();
+        if (!machine || !flagMember(*machine, "administrator", true)) {
+            m_lock.unlock();
+            return end(machine ? SystemStatus::accessError : SystemStatus::noStoreServer);
+        }
+        return end(SystemStatus::ok);
+    }
+
+    bool commitChanges() override
+    {
+        return change([](ServiceRecord& record, Json& service) {
+            if (!record.isChanged())
+                return SystemStatus::ok;
+            if (!hasSameSettings(record.seen, service))
+                return SystemStatus::stale;
+            if ((record.ipv4 && !checkedIPv4(*record.ipv4)) || (record.dns && !checkedDNS(*record.dns)))
+                return SystemStatus::invalidArgument;
+            if (record.ipv4)
+                service["protocols"]["IPv4"] = normalized(*record.ipv4);
+            if (record.dns)
+                service["protocols"]["DNS"] = normalized(*record.dns);
+            if (record.enabled)
+                service["enabled"] = *record.enabled;
+            record = {.seen = service, .ipv4 = {}, .dns = {}, .enabled = {}, .committed = true};
+            return SystemStatus::ok;
+        });
+    }
+
+    bool applyChanges() override
+    {
+        return change([](ServiceRecord& record, Json& service) {
+            if (record.committed)
+                bringUpToDate(service);
+            return SystemStatus::ok;
+        });
+    }
+
+    bool unlock() override
+    {
+        if (!m_lock.isLocked())
+            return end(SystemStatus::needLock);
+        m_lock.unlock();
+        return end(SystemStatus::ok);
+    }
+
+private:
+    void take(const Json& snapshot)
+    {
+        m_records.reset();
+        const Json* services = member(snapshot, "services");
+        if (!services || !services->is_array())
+            return;
+        m_records.emplace();
+        for (const Json& service : *services) {
+            m_records->push_back(std::make_shared<ServiceRecord>());
+            m_records->back()->seen = service;
+        }
+    }
+
+    bool end(SystemStatus status)
+    {
+        m_status = status;
+        return status == SystemStatus::ok;
+    }
+
+    /// What the system makes of checked settings: texts that count as absent are not stored.
+    static Json normalized(Dictionary dictionary)
+    {
+        if (const auto ipv4 = checkedIPv4(dictionary); ipv4 && !ipv4->router)
+            dictionary.remove(QStringLiteral("Router"));
+        const QString servers = QStringLiteral("ServerAddresses");
+        if (const auto dns = checkedDNS(dictionary); dns && dictionary.contains(servers)) {
+            dictionary[servers] = dns->serverAddresses;
+            if (dns->serverAddresses.isEmpty())
+                dictionary.remove(servers);
+        }
+        return jsonFromDictionary(dictionary);
+    }
+
+    /// Lets step change each service in the file, and writes the file when every one went well.
+    template <typename Step>
+    bool change(Step step)
+    {
+        if (!m_lock.isLocked())
+            return end(SystemStatus::needLock);
+        auto machine = m_machine.read();
+        if (!machine)
+            return end(SystemStatus::noStoreServer);
+        for (const auto& record : m_records.value_or(std::vector<std::shared_ptr<ServiceRecord>>())) {
+            Json* service = find(*machine, record->seen);
+            if (!service && record->isChanged())
+                return end(SystemStatus::noKey);
+            const SystemStatus status = service ? step(*record, *service) : SystemStatus::ok;
+            if (status != SystemStatus::ok)
+                return end(status);
+        }
+        return end(m_machine.write(*machine) ? SystemStatus::ok : SystemStatus::failed);
+    }
+
+    static Json* find(Json& machine, const Json& seen)
+    {
+        if (!member(machine, "services") || !machine["services"].is_array())
+            return nullptr;
+        for (Json& service : machine["services"]) {
+            if (textMember(service, "id") && textMember(service, "id") == textMember(seen, "id"))
+                return &service;
+        }
+        return nullptr;
+    }
+
+    const SimulatedMachine& m_machine;
+    SystemStatus& m_status;
+    bool m_authorized;
+    QLockFile m_lock;
+    std::optional<std::vector<std::shared_ptr<ServiceRecord>>> m_records;
+};
+
+class SimulatedState final : public DynamicStore
+{
+public:
+    explicit SimulatedState(Json machine) : m_machine(std::move(machine)) {}
+
+    std::optional<QVariant> value(const QString& key) override
+    {
+        const Json* services = member(m_machine, "services");
+        if (!services || !services->is_array())
+            return std::nullopt;
+        for (const Json& service : *services) {
+            if (key == QStringLiteral("State:/Network/Service/%1/IPv4").arg(textMember(service, "id").value_or(QString())))
+                return entry(service, "live");
+            const Json* interface = member(service, "interface");
+            if (!interface)
+                continue;
+            const QString prefix = QStringLiteral("State:/Network/Interface/%1/")
+                                       .arg(textMember(*interface, "bsdName").value_or(QString()));
+            if (key == prefix + QStringLiteral("Link"))
+                return entry(service, "link");
+            if (key == prefix + QStringLiteral("DHCP"))
+                return lease(service);
+        }
+        return std::nullopt;
+    }
+
+    std::optional<QString> computerName() override { return textMember(m_machine, "computerName"); }
+
+private:
+    static std::optional<QVariant> entry(const Json& service, const char* key)
+    {
+        const Json* value = member(service, key);
+        return value ? std::optional(valueFromJson(*value)) : std::nullopt;
+    }
+
+    static std::optional<QVariant> lease(const Json& service)
+    {
+        const Json* protocols = member(service, "protocols");
+        const Json* ipv4 = protocols ? member(*protocols, "IPv4") : nullptr;
+        const Json* network = member(service, "network");
+        const Json* server = network ? member(*network, "ServerAddress") : nullptr;
+        const bool leased = ipv4 && textMember(*ipv4, "ConfigMethod") == QStringLiteral("DHCP") && member(service, "live");
+        if (!leased || !server)
+            return std::nullopt;
+        return Dictionary{{QStringLiteral("ServerAddress"), valueFromJson(*server)}};
+    }
+
+    Json m_machine;
+};
+
+} // namespace
+
+SimulatedConfiguration::SimulatedConfiguration(SimulatedMachine machine) : m_machine(std::move(machine)) {}
+
+std::optional<Json> SimulatedConfiguration::read()
+{
+    auto machine = m_machine.read();
+    m_readable = machine.has_value();
+    m_status = machine ? SystemStatus::ok : SystemStatus::noStoreServer;
+    return machine;
+}
+
+std::unique_ptr<Preferences> SimulatedConfiguration::open(bool authorized)
+{
+    auto machine = read();
+    if (!machine)
+        return nullptr;
+    return std::make_unique<SimulatedPreferences>(m_machine, std::move(*machine), m_status, authorized);
+}
+
+std::unique_ptr<Preferences> SimulatedConfiguration::createPreferences(const QString& /*name*/)
+{
+    return open(false);
+}
+
+std::unique_ptr<Preferences>
+SimulatedConfiguration::createPreferencesWithAuthorization(const QString& /*name*/, AuthorizationRef authorization)
+{
+    return open(authorization.handle != 0);
+}
+
+std::unique_ptr<DynamicStore> SimulatedConfiguration::createDynamicStore(const QString& /*name*/)
+{
+    auto machine = read();
+    return machine ? std::make_unique<SimulatedState>(std::move(*machine)) : nullptr;
+}
+
+} // namespace ardeo

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/simulated/SimulatedMachine.h"
+
+#include <atomic>
+
+namespace ardeo
+{
+
+/// The network configuration of the simulated machine.
+class SimulatedConfiguration final : public SystemConfiguration
+{
+public:
+    explicit SimulatedConfiguration(SimulatedMachine machine);
+    std::unique_ptr<Preferences> createPreferences(const QString& name) override;
+    std::unique_ptr<Preferences> createPreferencesWithAuthorization(const QString& name,
+                                                                    AuthorizationRef authorization) override;
+    std::unique_ptr<DynamicStore> createDynamicStore(const QString& name) override;
+    qint32 error() const override { return static_cast<qint32>(m_status); }
+
+    /// Whether the machine's file could be read the last time. May be called from any thread.
+    bool isReadable() const { return m_readable; }
+
+private:
+    std::optional<Json> read();
+    std::unique_ptr<Preferences> open(bool authorized);
+
+    SimulatedMachine m_machine;
+    std::atomic<bool> m_readable = true;
+    SystemStatus m_status = SystemStatus::ok;
+};
+
+} // namespace ardeo

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/SystemConfiguration.h"
+
+#include <nlohmann/json.hpp>
+
+namespace ardeo
+{
+
+using Json = nlohmann::ordered_json;
+
+/// The file that is the simulated machine: its services with their saved settings and their live state.
+class SimulatedMachine
+{
+public:
+    explicit SimulatedMachine(QString file);
+
+    /// Writes a machine with a few services where there is no file yet.
+    void seed() const;
+    /// The machine as it is now; none when the file cannot be read or is not a machine.
+    std::optional<Json> read() const;
+    /// Replaces the whole file, or leaves it as it was and returns false.
+    bool write(const Json& machine) const;
+
+    const QString& file() const { return m_file; }
+
+private:
+    QString m_file;
+};
+
+/// The member of an object; null when there is none, or when it is no object.
+const Json* member(const Json& object, const char* key);
+std::optional<QString> textMember(const Json& object, const char* key);
+bool flagMember(const Json& object, const char* key, bool otherwise);
+
+/// A value of the file as the system configuration hands it out, each kind as it is.
+QVariant valueFromJson(const Json& json);
+Json jsonFromDictionary(const Dictionary& dictionary);
+
+/// Makes the live state of a service follow its saved settings, as a machine would: DHCP takes the next lease
+/// of its network, manual settings are what they say, and without a link or when disabled there is nothing.
+void bringUpToDate(Json& service);
+
+} // namespace ardeo

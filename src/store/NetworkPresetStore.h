@@ -1,0 +1,43 @@
+#pragma once
+
+#include "backend/NetworkPreset.h"
+#include "platform/UserDefaults.h"
+
+#include <QObject>
+
+namespace ardeo
+{
+
+/// The user's saved profiles. The list is read from the preferences once, when the store is made, and stored
+/// again as a whole with every change. Main thread only.
+class NetworkPresetStore final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit NetworkPresetStore(UserDefaults& defaults);
+
+    /// In the order of the stored list, new ones at the end.
+    const QList<NetworkPreset>& presets() const { return m_presets; }
+    /// Replaces the whole list. It is stored in any case; observers are told if it differs.
+    void setPresets(const QList<NetworkPreset>& presets);
+    /// Replaces the first profile with the same id in its place, or adds a new one at the end.
+    void upsert(const NetworkPreset& preset);
+    /// Removes every profile with that id. Observers are told also if there is none.
+    void remove(const QUuid& id);
+
+Q_SIGNALS:
+    void presetsWillChange();
+    void presetsDidChange();
+
+private:
+    void persist();
+
+    const QString key;
+    UserDefaults& m_defaults;
+    QList<NetworkPreset> m_presets;
+    /// What was found at the start and could not be read; kept until it has been put aside.
+    std::optional<QByteArray> m_unreadable;
+};
+
+} // namespace ardeo

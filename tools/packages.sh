@@ -1,0 +1,26 @@
+# Sourced by ./run and ./test: installs from Debian's packages what is missing, and says what.
+
+build_packages=(
+    g++ cmake ninja-build pkg-config
+    qt6-base-dev libqt6svg6-dev qcoro-qt6-dev nlohmann-json3-dev libnm-dev libpolkit-gobject-1-dev
+)
+test_packages=(
+    clang-format network-manager polkitd dnsmasq-base dbus iproute2 util-linux
+)
+
+# need_packages PACKAGE...: returns when all of them are installed; ends the script when that cannot be had.
+need_packages() {
+    local package missing=() privilege=()
+    for package in "$@"; do
+        [[ $(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null) == installed ]] || missing+=("$package")
+    done
+    [[ ${#missing[@]} -gt 0 ]] || return 0
+    echo "Installing from Debian's packages: ${missing[*]}"
+    if [[ $(id -u) != 0 ]]; then
+        command -v sudo >/dev/null || { echo "Please install them as root; sudo is not there." >&2; exit 1; }
+        privilege=(sudo)
+    fi
+    "${privilege[@]}" apt-get update -qq
+    "${privilege[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
