@@ -14,8 +14,8 @@ public:
     AuthorizationService& operator=(const AuthorizationService&) = delete;
     ~AuthorizationService();
 
-    /// The reference that is held, or a new one, for which the user may be asked; the caller borrows it for one
-    /// operation. A held one is returned as it is, even if the consent has lapsed in the meantime. Throws
+    /// The reference that is held, or a new one, for which the user may be asked; the caller borrows it for
+    /// one operation. A held one is returned as it is, even if the consent has lapsed in the meantime. Throws
     /// AuthError.
     AuthorizationRef authorize();
     /// Gives the held reference up, so that the next action asks again.

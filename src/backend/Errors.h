@@ -15,7 +15,11 @@ public:
     const char* what() const noexcept override { return m_utf8.constData(); }
 
 protected:
-    explicit DescribedError(const QString& description) : m_description(description), m_utf8(description.toUtf8()) {}
+    explicit DescribedError(const QString& description)
+        : m_description(description)
+        , m_utf8(description.toUtf8())
+    {
+    }
 
 private:
     QString m_description;
@@ -26,7 +30,14 @@ private:
 class ConfigError final : public DescribedError
 {
 public:
-    enum class Case { lockFailed, serviceNotFound, protocolUnavailable, commitFailed, applyFailed, preferencesUnavailable };
+    enum class Case {
+        lockFailed,
+        serviceNotFound,
+        protocolUnavailable,
+        commitFailed,
+        applyFailed,
+        preferencesUnavailable
+    };
 
     static ConfigError lockFailed(qint32 code)
     {
@@ -38,7 +49,8 @@ public:
     }
     static ConfigError protocolUnavailable(const QString& name)
     {
-        return {Case::protocolUnavailable, QStringLiteral("Protocol ") + name + QStringLiteral(" unavailable.")};
+        return {Case::protocolUnavailable,
+                QStringLiteral("Protocol ") + name + QStringLiteral(" unavailable.")};
     }
     static ConfigError commitFailed(qint32 code)
     {
@@ -56,7 +68,9 @@ public:
     Case errorCase() const { return m_case; }
 
 private:
-    ConfigError(Case errorCase, const QString& description) : DescribedError(description), m_case(errorCase) {}
+    ConfigError(Case errorCase, const QString& description) : DescribedError(description), m_case(errorCase)
+    {
+    }
 
     Case m_case;
 };

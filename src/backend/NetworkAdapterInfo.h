@@ -7,21 +7,21 @@
 namespace ardeo
 {
 
-/// The IP configuration of one service: what reading it gives, and what writing it takes. A default one is the
-/// empty record that stands for whatever could not be read. It has no equality on purpose.
+/// The IP configuration of one service: what reading it gives, and what writing it takes. A default one is
+/// the empty record that stands for whatever could not be read. It has no equality on purpose.
 struct NetworkAdapterInfo {
     IPv4Mode ipv4Mode = IPv4Mode::dhcp;
-    Text ipAddress;
-    Text subnetMask;
-    Text router;
+    Text ipAddress{};
+    Text subnetMask{};
+    Text router{};
     DNSMode dnsMode = DNSMode::automatic;
-    Text primaryDNS;
-    Text alternateDNS;
-    QList<Text> searchDomains;
+    Text primaryDNS{};
+    Text alternateDNS{};
+    QList<Text> searchDomains{};
     /// Read only.
-    Text dhcpServer;
+    Text dhcpServer{};
     /// Read only.
-    Text computerName;
+    Text computerName{};
 };
 
 } // namespace ardeo

@@ -65,8 +65,8 @@ QStringList textsIn(const Dictionary& dictionary, const QString& key)
     if (value.typeId() != QMetaType::QVariantList)
         return {};
     const QVariantList list = value.toList();
-    const bool allTexts =
-        std::ranges::all_of(list, [](const QVariant& element) { return element.typeId() == QMetaType::QString; });
+    const bool allTexts = std::ranges::all_of(
+        list, [](const QVariant& element) { return element.typeId() == QMetaType::QString; });
     return allTexts ? value.toStringList() : QStringList();
 }
 
@@ -82,11 +82,13 @@ std::optional<Dictionary> stateAt(DynamicStore* state, const QString& key)
 
 std::optional<Dictionary> serviceState(DynamicStore* state, const std::optional<QString>& serviceID)
 {
-    return serviceID ? stateAt(state, QStringLiteral("State:/Network/Service/") + *serviceID + QStringLiteral("/IPv4"))
+    return serviceID ? stateAt(state, QStringLiteral("State:/Network/Service/") + *serviceID +
+                                          QStringLiteral("/IPv4"))
                      : std::nullopt;
 }
 
-std::optional<Dictionary> interfaceState(DynamicStore* state, const std::optional<Text>& bsdName, const QString& entry)
+std::optional<Dictionary> interfaceState(DynamicStore* state, const std::optional<Text>& bsdName,
+                                         const QString& entry)
 {
     return bsdName ? stateAt(state, QStringLiteral("State:/Network/Interface/") + bsdName->string() + entry)
                    : std::nullopt;
@@ -263,7 +265,8 @@ private:
 
 /// The authorized, locked transaction around a change of one service.
 template <typename Change>
-void changeService(SystemConfiguration& system, const Text& name, AuthorizationRef authorization, Change change)
+void changeService(SystemConfiguration& system, const Text& name, AuthorizationRef authorization,
+                   Change change)
 {
     const auto preferences = system.createPreferencesWithAuthorization(clientName, authorization);
     if (!preferences)

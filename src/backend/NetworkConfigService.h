@@ -29,8 +29,8 @@ public:
     QFuture<QList<AdapterInfo>> listAdapters();
     /// The service's configuration with its live state. What cannot be read is as in the empty record.
     QFuture<NetworkAdapterInfo> currentConfig(const Text& serviceName);
-    /// Saves the record as the service's configuration and makes the system use it at once. The record's texts
-    /// are handed on as they are. Fails with ConfigError.
+    /// Saves the record as the service's configuration and makes the system use it at once. The record's
+    /// texts are handed on as they are. Fails with ConfigError.
     QFuture<void> writeConfiguration(const Text& serviceName, const NetworkAdapterInfo& configuration,
                                      AuthorizationRef authorization, DNSHandling dns = DNSHandling::replace);
     /// Switches the service on or off, also when it is so already. Fails with ConfigError.

@@ -1,7 +1,6 @@
 #include "backend/NetworkPreset.h"
 
 #include <QRegularExpression>
-#include <QStringEncoder>
 
 #include <nlohmann/json.hpp>
 
@@ -19,11 +18,9 @@ struct CodingFailure {
 
 std::string utf8(const QString& string)
 {
-    QStringEncoder encoder(QStringEncoder::Utf8);
-    const QByteArray bytes = encoder.encode(string);
-    if (encoder.hasError())
+    if (!string.isValidUtf16())
         throw CodingFailure();
-    return bytes.toStdString();
+    return string.toStdString();
 }
 
 QString textAt(const Json& object, const char* key)
@@ -46,8 +43,8 @@ Mode modeAt(const Json& object, const char* key)
 QUuid uuidAt(const Json& object, const char* key)
 {
     // Qt reads more forms of a UUID than the canonical one.
-    static const QRegularExpression canonical(
-        QRegularExpression::anchoredPattern(QStringLiteral("[0-9A-Fa-f]{8}(-[0-9A-Fa-f]{4}){3}-[0-9A-Fa-f]{12}")));
+    static const QRegularExpression canonical(QRegularExpression::anchoredPattern(
+        QStringLiteral("[0-9A-Fa-f]{8}(-[0-9A-Fa-f]{4}){3}-[0-9A-Fa-f]{12}")));
     const QString text = textAt(object, key);
     if (!canonical.match(text).hasMatch())
         throw CodingFailure();
@@ -95,8 +92,8 @@ NetworkPreset decoded(const Json& object)
 size_t qHash(const NetworkPreset& preset, size_t seed)
 {
     return qHashMulti(seed, preset.id, preset.name, preset.serviceName, preset.ipv4Mode, preset.ipAddress,
-                      preset.subnetMask, preset.router, preset.dnsMode, preset.primaryDNS, preset.alternateDNS,
-                      preset.searchDomains);
+                      preset.subnetMask, preset.router, preset.dnsMode, preset.primaryDNS,
+                      preset.alternateDNS, preset.searchDomains);
 }
 
 std::optional<QByteArray> encodePresets(const QList<NetworkPreset>& presets)

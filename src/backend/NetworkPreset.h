@@ -12,18 +12,18 @@ namespace ardeo
 struct NetworkPreset {
     /// A new profile gets a random one.
     QUuid id = QUuid::createUuid();
-    Text name;
+    Text name{};
     /// The service that was selected when the profile was saved.
-    Text serviceName;
+    Text serviceName{};
     IPv4Mode ipv4Mode = IPv4Mode::dhcp;
-    Text ipAddress;
-    Text subnetMask;
-    Text router;
+    Text ipAddress{};
+    Text subnetMask{};
+    Text router{};
     DNSMode dnsMode = DNSMode::automatic;
-    Text primaryDNS;
-    Text alternateDNS;
+    Text primaryDNS{};
+    Text alternateDNS{};
     /// As typed in the form: one text, the domains separated by white space.
-    Text searchDomains;
+    Text searchDomains{};
 
     bool operator==(const NetworkPreset&) const = default;
 };

@@ -29,7 +29,8 @@ size_t qHash(const Text& text, size_t seed)
 
 bool comesBefore(const Text& a, const Text& b)
 {
-    // By scalar values: UTF-16 units would put characters beyond the first 65,536 before some of those within.
+    // By scalar values: UTF-16 units would put characters beyond the first 65,536 before some of those
+    // within.
     return std::ranges::lexicographical_compare(composed(a.string()).toUcs4(), composed(b.string()).toUcs4());
 }
 

@@ -96,7 +96,8 @@ QString takeSettings(Arguments& arguments, const QCommandLineParser& parser)
     }
 
     const bool addressed = arguments.address || arguments.mask || arguments.router;
-    if (arguments.profile && (arguments.dhcp || addressed || arguments.search || parser.isSet(QStringLiteral("dns"))))
+    if (arguments.profile &&
+        (arguments.dhcp || addressed || arguments.search || parser.isSet(QStringLiteral("dns"))))
         return QStringLiteral("--profile brings all settings along and takes no others beside it.");
     if (arguments.dhcp && addressed)
         return QStringLiteral("--dhcp takes no --address, --mask or --router.");
@@ -105,7 +106,8 @@ QString takeSettings(Arguments& arguments, const QCommandLineParser& parser)
     if (arguments.dns && arguments.dns->size() > 2)
         return QStringLiteral("--dns takes two servers at most.");
     if (arguments.automaticDNS && arguments.search && !arguments.search->trimmed().isEmpty())
-        return QStringLiteral("--search needs DNS servers of its own: automatic DNS keeps no search domains.");
+        return QStringLiteral(
+            "--search needs DNS servers of its own: automatic DNS keeps no search domains.");
     return {};
 }
 

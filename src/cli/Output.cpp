@@ -89,7 +89,8 @@ QString linkOf(const AdapterInfo& adapter)
 {
     QStringList words;
     if (const auto speed = adapter.linkSpeedMbps)
-        words << (*speed % 1000 == 0 ? QStringLiteral("%1 Gb/s").arg(*speed / 1000) : QStringLiteral("%1 Mb/s").arg(*speed));
+        words << (*speed % 1000 == 0 ? QStringLiteral("%1 Gb/s").arg(*speed / 1000)
+                                     : QStringLiteral("%1 Mb/s").arg(*speed));
     if (adapter.fullDuplex)
         words << (*adapter.fullDuplex ? QStringLiteral("full-duplex") : QStringLiteral("half-duplex"));
     return words.join(u' ');

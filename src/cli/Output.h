@@ -10,7 +10,8 @@ namespace ardeo
 // What the commands print, each ending in a line break. Colour is for terminals.
 
 QString adaptersAsTable(const QList<AdapterInfo>& adapters, bool colour);
-QString configurationAsTable(const AdapterInfo& adapter, const NetworkAdapterInfo& configuration, bool colour);
+QString configurationAsTable(const AdapterInfo& adapter, const NetworkAdapterInfo& configuration,
+                             bool colour);
 QString presetsAsTable(const QList<NetworkPreset>& presets, bool colour);
 
 /// An array of objects with the field names of AdapterInfo.

@@ -53,7 +53,8 @@ Outcome outcomeOf(const QStringList& commandLine, bool colour)
     }
     Platform platform = platformFor(arguments);
     if (arguments.command == Arguments::Command::version) {
-        const QString text = QStringLiteral("ardeoctl %1 on %2\n").arg(QStringLiteral(ARDEO_VERSION), platform.description);
+        const QString text =
+            QStringLiteral("ardeoctl %1 on %2\n").arg(QStringLiteral(ARDEO_VERSION), platform.description);
         return {.status = 0, .output = text.toUtf8(), .error = {}};
     }
     return runCommand(arguments, platform, colour);
@@ -70,6 +71,7 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "%s\n", outcome.error.toUtf8().constData());
     std::fwrite(outcome.output.constData(), 1, static_cast<size_t>(outcome.output.size()), stdout);
     const bool written = std::fflush(stdout) == 0;
-    // The model has a look at the network scheduled for three seconds after a change; nobody waits for it here.
+    // The model has a look at the network scheduled for three seconds after a change; nobody waits for it
+    // here.
     std::_Exit(written ? outcome.status : 1);
 }

@@ -71,7 +71,8 @@ public:
     /// Fills the form with what was last read.
     void revertForm();
 
-    /// Writes the form to the selected service, reads it again after a second, and once more three seconds later.
+    /// Writes the form to the selected service, reads it again after a second, and once more three seconds
+    /// later.
     QCoro::Task<> applyConfiguration();
     /// Puts the selected service on DHCP, which takes a new lease; its DNS configuration and the form's edits
     /// have no part in it. Reads it again as after an apply.

@@ -6,8 +6,8 @@ namespace ardeo
 {
 
 /// A property that keeps every value it is given, and tells its observers only of one that differs from the
-/// last. (A plain property drops a value that equals the last one, even if the two are spelled differently; one
-/// whose type has no equality tells of every assignment, and so does this.)
+/// last. (A plain property drops a value that equals the last one, even if the two are spelled differently;
+/// one whose type has no equality tells of every assignment, and so does this.)
 template <typename Value>
 class Observed final : public QProperty<Value>
 {

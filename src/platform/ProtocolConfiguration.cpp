@@ -18,7 +18,8 @@ bool holdsOnlyDots(const QString& text)
 bool isHostAddress(const QString& text)
 {
     const auto number = ipv4FromText(text);
-    return number && *number >> 24 != 0 && *number >> 24 != 127 && *number >> 28 != 0xE && *number != 0xFFFFFFFF;
+    return number && *number >> 24 != 0 && *number >> 24 != 127 && *number >> 28 != 0xE &&
+           *number != 0xFFFFFFFF;
 }
 
 /// Absent is an empty list; a value of another kind is none.

@@ -93,7 +93,8 @@ public:
     /// Null when there is none.
     virtual std::shared_ptr<NetworkSet> currentSet() = 0;
 
-    // Each step of the transaction returns false when it is refused; SystemConfiguration::error() has the reason.
+    // Each step of the transaction returns false when it is refused; SystemConfiguration::error() has the
+    // reason.
 
     /// Keeps other writers out. With wait, blocks for as long as another one holds the lock.
     virtual bool lock(bool wait) = 0;
@@ -124,8 +125,8 @@ public:
     /// A read-only handle; null when the system cannot be read. The name says who asks.
     virtual std::unique_ptr<Preferences> createPreferences(const QString& name) = 0;
     /// A handle that may change the preferences; null when the system cannot be reached.
-    virtual std::unique_ptr<Preferences> createPreferencesWithAuthorization(const QString& name,
-                                                                            AuthorizationRef authorization) = 0;
+    virtual std::unique_ptr<Preferences>
+    createPreferencesWithAuthorization(const QString& name, AuthorizationRef authorization) = 0;
     virtual std::unique_ptr<DynamicStore> createDynamicStore(const QString& name) = 0;
     /// The status of the last call of this library, as a code of SystemStatus.
     virtual qint32 error() const = 0;

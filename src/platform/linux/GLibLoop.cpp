@@ -56,9 +56,10 @@ bool GLibLoop::runUntil(QDeadlineTimer deadline, const std::function<bool()>& co
 
 GRef<GDBusConnection> GLibLoop::systemBus(QDeadlineTimer deadline)
 {
-    const auto result = call(deadline, [](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-        g_bus_get(G_BUS_TYPE_SYSTEM, cancellable, done, data);
-    });
+    const auto result =
+        call(deadline, [](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+            g_bus_get(G_BUS_TYPE_SYSTEM, cancellable, done, data);
+        });
     GRef<GDBusConnection> bus(g_bus_get_finish(result.get(), nullptr));
     if (bus) // A bus that goes away must not take the program with it.
         g_dbus_connection_set_exit_on_close(bus.get(), FALSE);

@@ -9,7 +9,8 @@ namespace ardeo
 /// nine seconds at most.
 std::optional<QString> networkManagerTrouble();
 
-/// The real machine: NetworkManager, polkit and the user's XDG folders. Program is what starting at login starts.
+/// The real machine: NetworkManager, polkit and the user's XDG folders. Program is what starting at login
+/// starts.
 Platform linuxPlatform(const QString& program);
 
 } // namespace ardeo

@@ -18,8 +18,8 @@ namespace ardeo
 namespace
 {
 
-/// The daemon's runtime folder: it is there when the daemon is, everybody may open it for reading, and a lock on
-/// it vanishes with its holder, however that one ends.
+/// The daemon's runtime folder: it is there when the daemon is, everybody may open it for reading, and a lock
+/// on it vanishes with its holder, however that one ends.
 constexpr auto lockFolder = "/run/NetworkManager";
 
 /// The status that stands for a call of the daemon that failed.
@@ -27,15 +27,19 @@ SystemStatus statusOf(const GLibError& error)
 {
     if (!error)
         return SystemStatus::failed;
-    const auto is = [&error](GQuark domain, int code) { return g_error_matches(error.get(), domain, code) != FALSE; };
+    const auto is = [&error](GQuark domain, int code) {
+        return g_error_matches(error.get(), domain, code) != FALSE;
+    };
     if (is(G_IO_ERROR, G_IO_ERROR_CANCELLED) || is(G_IO_ERROR, G_IO_ERROR_CLOSED) ||
         is(G_DBUS_ERROR, G_DBUS_ERROR_SERVICE_UNKNOWN) || is(G_DBUS_ERROR, G_DBUS_ERROR_NAME_HAS_NO_OWNER) ||
         is(G_DBUS_ERROR, G_DBUS_ERROR_NO_REPLY) || is(G_DBUS_ERROR, G_DBUS_ERROR_DISCONNECTED))
         return SystemStatus::noStoreServer;
     if (is(NM_SETTINGS_ERROR, NM_SETTINGS_ERROR_PERMISSION_DENIED) ||
-        is(NM_MANAGER_ERROR, NM_MANAGER_ERROR_PERMISSION_DENIED) || is(G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED))
+        is(NM_MANAGER_ERROR, NM_MANAGER_ERROR_PERMISSION_DENIED) ||
+        is(G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED))
         return SystemStatus::accessError;
-    if (error.get()->domain == NM_CONNECTION_ERROR || is(NM_SETTINGS_ERROR, NM_SETTINGS_ERROR_INVALID_CONNECTION))
+    if (error.get()->domain == NM_CONNECTION_ERROR ||
+        is(NM_SETTINGS_ERROR, NM_SETTINGS_ERROR_INVALID_CONNECTION))
         return SystemStatus::invalidArgument;
     if (is(G_DBUS_ERROR, G_DBUS_ERROR_UNKNOWN_OBJECT) || is(G_DBUS_ERROR, G_DBUS_ERROR_UNKNOWN_METHOD))
         return SystemStatus::noKey; // the profile was deleted
@@ -73,12 +77,12 @@ bool isAutoconnected(NMConnection* profile)
 GRef<NMConnection> readAnew(NetworkManagerSession& session, NMRemoteConnection* connection, GLibError& error)
 {
     GDBusConnection* bus = nm_client_get_dbus_connection(session.client());
-    const auto ended =
-        session.loop().call(session.deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+    const auto ended = session.loop().call(
+        session.deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
             g_dbus_connection_call(bus, NM_DBUS_SERVICE, nm_connection_get_path(NM_CONNECTION(connection)),
                                    NM_DBUS_INTERFACE_SETTINGS_CONNECTION, "GetSettings", nullptr,
-                                   G_VARIANT_TYPE("(a{sa{sv}})"), G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, cancellable,
-                                   done, data);
+                                   G_VARIANT_TYPE("(a{sa{sv}})"), G_DBUS_CALL_FLAGS_NO_AUTO_START, -1,
+                                   cancellable, done, data);
         });
     const GVariantRef answer(g_dbus_connection_call_finish(bus, ended.get(), error.out()));
     if (!answer)
@@ -206,15 +210,15 @@ SystemStatus NetworkManagerPreferences::commit(Profile& profile)
     if (!translate(profile, changed.get()))
         return SystemStatus::invalidArgument;
 
-    // To disk, also if the daemon made the profile up; and without connecting by itself, which is for apply to do.
-    // Secrets are not among what was read, and an update without any leaves them as they are.
+    // To disk, also if the daemon made the profile up; and without connecting by itself, which is for apply
+    // to do. Secrets are not among what was read, and an update without any leaves them as they are.
     constexpr auto flags = static_cast<NMSettingsUpdate2Flags>(NM_SETTINGS_UPDATE2_FLAG_TO_DISK |
                                                                NM_SETTINGS_UPDATE2_FLAG_BLOCK_AUTOCONNECT);
     const auto ended = m_session->loop().call(
         m_session->deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
             nm_remote_connection_update2(profile.connection.get(),
-                                         nm_connection_to_dbus(changed.get(), NM_CONNECTION_SERIALIZE_ALL), flags,
-                                         nullptr, cancellable, done, data);
+                                         nm_connection_to_dbus(changed.get(), NM_CONNECTION_SERIALIZE_ALL),
+                                         flags, nullptr, cancellable, done, data);
         });
     const GVariantRef updated(
         nm_remote_connection_update2_finish(profile.connection.get(), ended.get(), error.out()));
@@ -284,25 +288,26 @@ SystemStatus NetworkManagerPreferences::activate(NMRemoteConnection* connection,
     NMClient* client = m_session->client();
     const auto ended = m_session->loop().call(
         m_session->deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-            nm_client_activate_connection_async(client, NM_CONNECTION(connection), device, nullptr, cancellable, done,
-                                                data);
+            nm_client_activate_connection_async(client, NM_CONNECTION(connection), device, nullptr,
+                                                cancellable, done, data);
         });
     GLibError error;
-    const GRef<NMActiveConnection> active(nm_client_activate_connection_finish(client, ended.get(), error.out()));
+    const GRef<NMActiveConnection> active(
+        nm_client_activate_connection_finish(client, ended.get(), error.out()));
     if (!active)
         return statusOf(error);
 
-    // An address that was set is in force once the activation is complete. A network that is asked for one may
-    // take its time, or never answer; there the activation has done its part when it begins to ask, and where a
-    // person has to be asked for a secret, when it begins to wait for them.
+    // An address that was set is in force once the activation is complete. A network that is asked for one
+    // may take its time, or never answer; there the activation has done its part when it begins to ask, and
+    // where a person has to be asked for a secret, when it begins to wait for them.
     bool done = false;
     const bool settled = m_session->loop().runUntil(m_session->deadline(), [&] {
         const auto state = nm_active_connection_get_state(active.get());
         done = state == NM_ACTIVE_CONNECTION_STATE_ACTIVATED;
         if (!done && device && nm_device_get_active_connection(device) == active.get()) {
             const NMDeviceState reached = nm_device_get_state(device);
-            done = reached == NM_DEVICE_STATE_NEED_AUTH || (dhcp && reached >= NM_DEVICE_STATE_IP_CONFIG &&
-                                                            reached <= NM_DEVICE_STATE_ACTIVATED);
+            done = reached == NM_DEVICE_STATE_NEED_AUTH ||
+                   (dhcp && reached >= NM_DEVICE_STATE_IP_CONFIG && reached <= NM_DEVICE_STATE_ACTIVATED);
         }
         return done || state == NM_ACTIVE_CONNECTION_STATE_DEACTIVATED || !nm_client_get_nm_running(client);
     });

@@ -24,7 +24,8 @@ class NetworkManagerPreferences final : public Preferences
 {
 public:
     /// Failed steps leave their reason in status.
-    NetworkManagerPreferences(std::shared_ptr<NetworkManagerSession> session, SystemStatus& status, bool authorized);
+    NetworkManagerPreferences(std::shared_ptr<NetworkManagerSession> session, SystemStatus& status,
+                              bool authorized);
     NetworkManagerPreferences(const NetworkManagerPreferences&) = delete;
     NetworkManagerPreferences& operator=(const NetworkManagerPreferences&) = delete;
     ~NetworkManagerPreferences() override;

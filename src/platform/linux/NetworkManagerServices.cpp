@@ -25,16 +25,21 @@ bool isService(NMRemoteConnection* connection)
     NMConnection* profile = NM_CONNECTION(connection);
     NMSettingConnection* common = nm_connection_get_setting_connection(profile);
     const auto flags = nm_remote_connection_get_flags(connection);
-    const bool mirrored = (flags & (NM_SETTINGS_CONNECTION_FLAG_EXTERNAL | NM_SETTINGS_CONNECTION_FLAG_VOLATILE)) != 0;
+    const bool mirrored =
+        (flags & (NM_SETTINGS_CONNECTION_FLAG_EXTERNAL | NM_SETTINGS_CONNECTION_FLAG_VOLATILE)) != 0;
     return common && nm_connection_get_setting_ip4_config(profile) && !mirrored &&
-           !isOfType(connection, NM_SETTING_LOOPBACK_SETTING_NAME) && !nm_setting_connection_get_master(common);
+           !isOfType(connection, NM_SETTING_LOOPBACK_SETTING_NAME) &&
+           !nm_setting_connection_get_master(common);
 }
 
 class DeviceInterface final : public NetworkInterface
 {
 public:
     explicit DeviceInterface(NMDevice* device) : m_device(newRef(device)) {}
-    std::optional<QString> bsdName() const override { return textOrNone(nm_device_get_iface(m_device.get())); }
+    std::optional<QString> bsdName() const override
+    {
+        return textOrNone(nm_device_get_iface(m_device.get()));
+    }
     std::optional<QString> hardwareAddressString() const override
     {
         return textOrNone(nm_device_get_hw_address(m_device.get()));
@@ -93,7 +98,10 @@ public:
     {
     }
     std::optional<QString> name() const override { return textOrNone(nm_connection_get_id(connection())); }
-    std::optional<QString> serviceID() const override { return textOrNone(nm_connection_get_uuid(connection())); }
+    std::optional<QString> serviceID() const override
+    {
+        return textOrNone(nm_connection_get_uuid(connection()));
+    }
     bool isEnabled() const override
     {
         NMSettingConnection* common = nm_connection_get_setting_connection(connection());
@@ -129,8 +137,14 @@ private:
 class ProfileSet final : public NetworkSet
 {
 public:
-    explicit ProfileSet(std::vector<std::shared_ptr<NetworkService>> services) : m_services(std::move(services)) {}
-    std::optional<std::vector<std::shared_ptr<NetworkService>>> services() const override { return m_services; }
+    explicit ProfileSet(std::vector<std::shared_ptr<NetworkService>> services)
+        : m_services(std::move(services))
+    {
+    }
+    std::optional<std::vector<std::shared_ptr<NetworkService>>> services() const override
+    {
+        return m_services;
+    }
 
 private:
     std::vector<std::shared_ptr<NetworkService>> m_services;

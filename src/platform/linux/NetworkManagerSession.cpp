@@ -74,12 +74,12 @@ DaemonPresence probeNetworkManager(int milliseconds)
     const auto bus = loop.systemBus(deadline);
     if (!bus)
         return DaemonPresence::absent;
-    const auto result =
-        loop.call(deadline, [&bus](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-            g_dbus_connection_call(bus.get(), NM_DBUS_SERVICE, NM_DBUS_PATH, "org.freedesktop.DBus.Properties",
-                                   "Get", g_variant_new("(ss)", NM_DBUS_INTERFACE, "Version"), nullptr,
-                                   G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, cancellable, done, data);
-        });
+    const auto result = loop.call(deadline, [&bus](GCancellable* cancellable, GAsyncReadyCallback done,
+                                                   gpointer data) {
+        g_dbus_connection_call(bus.get(), NM_DBUS_SERVICE, NM_DBUS_PATH, "org.freedesktop.DBus.Properties",
+                               "Get", g_variant_new("(ss)", NM_DBUS_INTERFACE, "Version"), nullptr,
+                               G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, cancellable, done, data);
+    });
     GLibError error;
     const GVariantRef answer(g_dbus_connection_call_finish(bus.get(), result.get(), error.out()));
     if (answer)

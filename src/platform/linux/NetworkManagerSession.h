@@ -12,8 +12,8 @@ namespace ardeo
 /// How NetworkManager was found the last time.
 enum class DaemonPresence { answers, absent, silent };
 
-/// One operation's view of NetworkManager: a consistent snapshot of what it knows, and the one deadline for all
-/// calls that the operation makes.
+/// One operation's view of NetworkManager: a consistent snapshot of what it knows, and the one deadline for
+/// all calls that the operation makes.
 class NetworkManagerSession
 {
 public:

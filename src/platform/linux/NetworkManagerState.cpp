@@ -56,7 +56,8 @@ std::optional<QVariant> NetworkManagerState::value(const QString& key)
     NMClient* client = m_session->client();
     if (!client)
         return std::nullopt;
-    if (const auto serviceID = between(key, QStringLiteral("State:/Network/Service/"), QStringLiteral("/IPv4")))
+    if (const auto serviceID =
+            between(key, QStringLiteral("State:/Network/Service/"), QStringLiteral("/IPv4")))
         return serviceState(*serviceID);
     const QString interfaces = QStringLiteral("State:/Network/Interface/");
     if (const auto bsdName = between(key, interfaces, QStringLiteral("/Link"))) {
@@ -89,7 +90,8 @@ std::optional<QVariant> NetworkManagerState::serviceState(const QString& service
 std::optional<QVariant> NetworkManagerState::linkState(NMDevice* device) const
 {
     Dictionary link;
-    link[QStringLiteral("Active")] = (nm_device_get_interface_flags(device) & NM_DEVICE_INTERFACE_FLAG_CARRIER) != 0;
+    link[QStringLiteral("Active")] =
+        (nm_device_get_interface_flags(device) & NM_DEVICE_INTERFACE_FLAG_CARRIER) != 0;
     if (const auto speed = speedOf(device))
         link[QStringLiteral("Speed")] = *speed;
     if (const auto fullDuplex = fullDuplexOf(QString::fromUtf8(nm_device_get_iface(device))))

@@ -13,7 +13,8 @@ namespace ardeo
 /// polkit's word on one action for this process.
 struct PolkitAnswer {
     bool authorized = false;
-    /// Whether polkit keeps a consent for a while, so that asking ahead is of use. Known only when not authorized.
+    /// Whether polkit keeps a consent for a while, so that asking ahead is of use. Known only when not
+    /// authorized.
     bool keepsConsent = false;
     /// The kept consent that allows it, if one does.
     std::optional<QString> temporaryAuthorization;
@@ -24,7 +25,8 @@ std::span<const char* const> networkActions();
 
 /// Asks polkit about an action; with interaction it may prompt the user, and takes as long as they do. None
 /// when polkit is not there or does not answer.
-std::optional<PolkitAnswer> askPolkit(GLibLoop& loop, QDeadlineTimer deadline, const char* action, bool interaction);
+std::optional<PolkitAnswer> askPolkit(GLibLoop& loop, QDeadlineTimer deadline, const char* action,
+                                      bool interaction);
 
 /// Takes back a kept consent. One that has lapsed already is no error.
 void revokeTemporaryAuthorization(GLibLoop& loop, QDeadlineTimer deadline, const QString& identifier);

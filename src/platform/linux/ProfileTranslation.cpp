@@ -90,11 +90,13 @@ void setIPv4(NMConnection* profile, const IPv4Configuration& configuration)
 {
     NMSettingIPConfig* ipv4 = ipv4Of(profile);
     g_object_set(ipv4, NM_SETTING_IP_CONFIG_METHOD,
-                 configuration.manual ? NM_SETTING_IP4_CONFIG_METHOD_MANUAL : NM_SETTING_IP4_CONFIG_METHOD_AUTO,
+                 configuration.manual ? NM_SETTING_IP4_CONFIG_METHOD_MANUAL
+                                      : NM_SETTING_IP4_CONFIG_METHOD_AUTO,
                  NM_SETTING_IP_CONFIG_GATEWAY, nullptr, nullptr);
     nm_setting_ip_config_clear_addresses(ipv4);
     for (const auto& [text, prefix] : configuration.addresses) {
-        NMIPAddress* address = nm_ip_address_new(AF_INET, text.toUtf8().constData(), static_cast<guint>(prefix), nullptr);
+        NMIPAddress* address =
+            nm_ip_address_new(AF_INET, text.toUtf8().constData(), static_cast<guint>(prefix), nullptr);
         nm_setting_ip_config_add_address(ipv4, address);
         nm_ip_address_unref(address);
     }

@@ -38,7 +38,8 @@ LoginItem::Status XdgLoginItem::status() const
     if (!QFile::exists(m_entry))
         return Status::notRegistered;
     const std::unique_ptr<GKeyFile, decltype(&g_key_file_free)> entry(g_key_file_new(), &g_key_file_free);
-    if (!g_key_file_load_from_file(entry.get(), QFile::encodeName(m_entry).constData(), G_KEY_FILE_NONE, nullptr))
+    if (!g_key_file_load_from_file(entry.get(), QFile::encodeName(m_entry).constData(), G_KEY_FILE_NONE,
+                                   nullptr))
         return Status::notFound;
     const auto flag = [&](const char* key) {
         return g_key_file_get_boolean(entry.get(), "Desktop Entry", key, nullptr) != FALSE;
@@ -47,9 +48,9 @@ LoginItem::Status XdgLoginItem::status() const
         g_key_file_get_value(entry.get(), "Desktop Entry", "Exec", nullptr), &g_free);
     if (!exec || QString::fromUtf8(exec.get()) != execLine())
         return Status::notFound;
-    const bool switchedOff =
-        flag("Hidden") || (g_key_file_has_key(entry.get(), "Desktop Entry", "X-GNOME-Autostart-enabled", nullptr) &&
-                           !flag("X-GNOME-Autostart-enabled"));
+    const bool switchedOff = flag("Hidden") || (g_key_file_has_key(entry.get(), "Desktop Entry",
+                                                                   "X-GNOME-Autostart-enabled", nullptr) &&
+                                                !flag("X-GNOME-Autostart-enabled"));
     return switchedOff ? Status::requiresApproval : Status::enabled;
 }
 
@@ -57,9 +58,10 @@ std::optional<QString> XdgLoginItem::registerItem()
 {
     m_folder.mkpath(QStringLiteral("."));
     QSaveFile file(m_entry);
-    const QString text = QStringLiteral("[Desktop Entry]\nType=Application\nName=Ardeo IP Config\nExec=%1\nIcon=%2\n"
-                                        "X-GNOME-Autostart-enabled=true\n")
-                             .arg(execLine(), QLatin1String(applicationIdentifier));
+    const QString text =
+        QStringLiteral("[Desktop Entry]\nType=Application\nName=Ardeo IP Config\nExec=%1\nIcon=%2\n"
+                       "X-GNOME-Autostart-enabled=true\n")
+            .arg(execLine(), QLatin1String(applicationIdentifier));
     if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0 || !file.commit())
         return file.errorString();
     return std::nullopt;

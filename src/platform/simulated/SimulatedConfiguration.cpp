@@ -39,8 +39,14 @@ class SimulatedInterface final : public NetworkInterface
 public:
     explicit SimulatedInterface(Json interface) : m_interface(std::move(interface)) {}
     std::optional<QString> bsdName() const override { return textMember(m_interface, "bsdName"); }
-    std::optional<QString> hardwareAddressString() const override { return textMember(m_interface, "macAddress"); }
-    std::optional<QString> localizedDisplayName() const override { return textMember(m_interface, "hardwareName"); }
+    std::optional<QString> hardwareAddressString() const override
+    {
+        return textMember(m_interface, "macAddress");
+    }
+    std::optional<QString> localizedDisplayName() const override
+    {
+        return textMember(m_interface, "hardwareName");
+    }
 
 private:
     Json m_interface;
@@ -83,7 +89,10 @@ public:
     explicit SimulatedService(std::shared_ptr<ServiceRecord> record) : m_record(std::move(record)) {}
     std::optional<QString> name() const override { return textMember(m_record->seen, "name"); }
     std::optional<QString> serviceID() const override { return textMember(m_record->seen, "id"); }
-    bool isEnabled() const override { return m_record->enabled.value_or(flagMember(m_record->seen, "enabled", true)); }
+    bool isEnabled() const override
+    {
+        return m_record->enabled.value_or(flagMember(m_record->seen, "enabled", true));
+    }
     bool setEnabled(bool enabled) override
     {
         m_record->enabled = enabled;
@@ -116,7 +125,10 @@ public:
         : m_services(std::move(services))
     {
     }
-    std::optional<std::vector<std::shared_ptr<NetworkService>>> services() const override { return m_services; }
+    std::optional<std::vector<std::shared_ptr<NetworkService>>> services() const override
+    {
+        return m_services;
+    }
 
 private:
     std::optional<std::vector<std::shared_ptr<NetworkService>>> m_services;
@@ -125,7 +137,8 @@ private:
 class SimulatedPreferences final : public Preferences
 {
 public:
-    SimulatedPreferences(const SimulatedMachine& machine, Json snapshot, SystemStatus& status, bool authorized)
+    SimulatedPreferences(const SimulatedMachine& machine, Json snapshot, SystemStatus& status,
+                         bool authorized)
         : m_machine(machine)
         , m_status(status)
         , m_authorized(authorized)
@@ -291,7 +304,8 @@ public:
         if (!services || !services->is_array())
             return std::nullopt;
         for (const Json& service : *services) {
-            if (key == QStringLiteral("State:/Network/Service/%1/IPv4").arg(textMember(service, "id").value_or(QString())))
+            if (key == QStringLiteral("State:/Network/Service/%1/IPv4")
+                           .arg(textMember(service, "id").value_or(QString())))
                 return entry(service, "live");
             const Json* interface = member(service, "interface");
             if (!interface)
@@ -321,7 +335,8 @@ private:
         const Json* ipv4 = protocols ? member(*protocols, "IPv4") : nullptr;
         const Json* network = member(service, "network");
         const Json* server = network ? member(*network, "ServerAddress") : nullptr;
-        const bool leased = ipv4 && textMember(*ipv4, "ConfigMethod") == QStringLiteral("DHCP") && member(service, "live");
+        const bool leased =
+            ipv4 && textMember(*ipv4, "ConfigMethod") == QStringLiteral("DHCP") && member(service, "live");
         if (!leased || !server)
             return std::nullopt;
         return Dictionary{{QStringLiteral("ServerAddress"), valueFromJson(*server)}};
@@ -356,7 +371,8 @@ std::unique_ptr<Preferences> SimulatedConfiguration::createPreferences(const QSt
 }
 
 std::unique_ptr<Preferences>
-SimulatedConfiguration::createPreferencesWithAuthorization(const QString& /*name*/, AuthorizationRef authorization)
+SimulatedConfiguration::createPreferencesWithAuthorization(const QString& /*name*/,
+                                                           AuthorizationRef authorization)
 {
     return open(authorization.handle != 0);
 }

@@ -69,7 +69,9 @@ QString key(const char* name)
 /// The next lease of the network as a live state; none when the network has no addresses to give.
 std::optional<Json> nextLease(Json& network)
 {
-    const auto number = [&network](const char* name) { return ipv4FromText(textMember(network, name).value_or(QString())); };
+    const auto number = [&network](const char* name) {
+        return ipv4FromText(textMember(network, name).value_or(QString()));
+    };
     const auto first = number("First");
     const auto last = number("Last");
     const auto next = number("Next");

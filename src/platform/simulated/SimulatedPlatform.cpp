@@ -77,7 +77,8 @@ Platform simulatedPlatform(const QString& machineFile, std::unique_ptr<Clock> cl
     platform.systemConfiguration = std::move(configuration);
     platform.authorization = std::make_unique<SimulatedAuthorization>(machine);
     platform.loginItem = std::make_unique<SimulatedLoginItem>(machine.file() + QStringLiteral(".login-item"));
-    platform.userDefaults = std::make_unique<FileUserDefaults>(QDir(machine.file() + QStringLiteral(".defaults")));
+    platform.userDefaults =
+        std::make_unique<FileUserDefaults>(QDir(machine.file() + QStringLiteral(".defaults")));
     platform.clock = std::move(clock);
     platform.description = QStringLiteral("simulated machine (%1)").arg(machine.file());
     return platform;

@@ -1,0 +1,159 @@
+#pragma once
+
+#include "platform/SystemConfiguration.h"
+
+#include <QMap>
+#include <QSemaphore>
+
+namespace ardeo
+{
+
+/// A system configuration made of plain values. It writes down the calls that matter in their order, and
+/// refuses any step with any status; every other call resets the status, as the real library does.
+class FakeSystemConfiguration final : public SystemConfiguration
+{
+public:
+    struct Interface {
+        std::optional<QString> bsdName, macAddress, displayName;
+    };
+    struct Service {
+        std::optional<QString> name{}, id{};
+        bool enabled = true;
+        std::optional<Interface> interface {
+        };
+        QMap<QString, std::optional<QVariant>> protocols = {{QStringLiteral("IPv4"), std::nullopt},
+                                                            {QStringLiteral("DNS"), std::nullopt}};
+    };
+
+    bool preferencesAvailable = true;
+    bool setAvailable = true;
+    bool stateAvailable = true;
+    std::optional<QList<Service>> services = QList<Service>();
+    QMap<QString, QVariant> state;
+    std::optional<QString> computerName = QStringLiteral("Test Machine");
+    /// Step ("lock", "commit", "apply") and the status that it is refused with.
+    QMap<QString, qint32> refusals;
+    QStringList calls;
+    AuthorizationRef authorization;
+    /// Reads wait for it; a test that takes it all stalls them.
+    QSemaphore gate{1000};
+
+    std::unique_ptr<Preferences> createPreferences(const QString& name) override
+    {
+        gate.acquire();
+        gate.release();
+        return preferencesAvailable ? std::make_unique<FakePreferences>(*this, name) : nullptr;
+    }
+    std::unique_ptr<Preferences> createPreferencesWithAuthorization(const QString& name,
+                                                                    AuthorizationRef reference) override
+    {
+        authorization = reference;
+        calls << QStringLiteral("open");
+        return preferencesAvailable ? std::make_unique<FakePreferences>(*this, name) : nullptr;
+    }
+    std::unique_ptr<DynamicStore> createDynamicStore(const QString&) override
+    {
+        return stateAvailable ? std::make_unique<FakeState>(*this) : nullptr;
+    }
+    qint32 error() const override { return m_status; }
+
+private:
+    struct FakeProtocol final : NetworkProtocol {
+        FakeProtocol(FakeSystemConfiguration& owner, std::optional<QVariant>& place, QString type)
+            : system(owner)
+            , value(place)
+            , name(std::move(type))
+        {
+        }
+        std::optional<QVariant> configuration() const override { return value; }
+        bool setConfiguration(const Dictionary& dictionary) override
+        {
+            value = dictionary;
+            return system.step(QStringLiteral("set ") + name);
+        }
+        FakeSystemConfiguration& system;
+        std::optional<QVariant>& value;
+        QString name;
+    };
+    struct FakeInterface final : NetworkInterface {
+        explicit FakeInterface(Interface values) : interface(std::move(values)) {}
+        std::optional<QString> bsdName() const override { return interface.bsdName; }
+        std::optional<QString> hardwareAddressString() const override { return interface.macAddress; }
+        std::optional<QString> localizedDisplayName() const override { return interface.displayName; }
+        Interface interface;
+    };
+    struct FakeService final : NetworkService {
+        FakeService(FakeSystemConfiguration& owner, Service& place) : system(owner), service(place) {}
+        std::optional<QString> name() const override { return service.name; }
+        std::optional<QString> serviceID() const override { return service.id; }
+        bool isEnabled() const override { return service.enabled; }
+        bool setEnabled(bool enabled) override
+        {
+            service.enabled = enabled;
+            return system.step(QStringLiteral("enable"));
+        }
+        std::shared_ptr<NetworkInterface> interface() const override
+        {
+            return service.interface ? std::make_shared<FakeInterface>(*service.interface) : nullptr;
+        }
+        std::shared_ptr<NetworkProtocol> protocol(const QString& type) const override
+        {
+            const auto found = service.protocols.find(type);
+            return found == service.protocols.end() ? nullptr
+                                                    : std::make_shared<FakeProtocol>(system, *found, type);
+        }
+        FakeSystemConfiguration& system;
+        Service& service;
+    };
+    struct FakeSet final : NetworkSet {
+        explicit FakeSet(FakeSystemConfiguration& owner) : system(owner) {}
+        std::optional<std::vector<std::shared_ptr<NetworkService>>> services() const override
+        {
+            if (!system.services)
+                return std::nullopt;
+            std::vector<std::shared_ptr<NetworkService>> list;
+            for (Service& service : *system.services)
+                list.push_back(std::make_shared<FakeService>(system, service));
+            return list;
+        }
+        FakeSystemConfiguration& system;
+    };
+    struct FakePreferences final : Preferences {
+        FakePreferences(FakeSystemConfiguration& owner, const QString& name) : system(owner)
+        {
+            Q_ASSERT(name == QStringLiteral("Ardeo-IPConfig"));
+        }
+        std::shared_ptr<NetworkSet> currentSet() override
+        {
+            return system.setAvailable ? std::make_shared<FakeSet>(system) : nullptr;
+        }
+        bool lock(bool wait) override
+        {
+            return system.step(wait ? QStringLiteral("lock") : QStringLiteral("try lock"));
+        }
+        bool commitChanges() override { return system.step(QStringLiteral("commit")); }
+        bool applyChanges() override { return system.step(QStringLiteral("apply")); }
+        bool unlock() override { return system.step(QStringLiteral("unlock")); }
+        FakeSystemConfiguration& system;
+    };
+    struct FakeState final : DynamicStore {
+        explicit FakeState(FakeSystemConfiguration& owner) : system(owner) {}
+        std::optional<QVariant> value(const QString& key) override
+        {
+            return system.state.contains(key) ? std::optional(system.state.value(key)) : std::nullopt;
+        }
+        std::optional<QString> computerName() override { return system.computerName; }
+        FakeSystemConfiguration& system;
+    };
+
+    bool step(const QString& name)
+    {
+        calls << name;
+        m_status = refusals.value(name, 0);
+        return m_status == 0;
+    }
+
+    qint32 m_status = 0;
+};
+
+} // namespace ardeo

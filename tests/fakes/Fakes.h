@@ -1,0 +1,119 @@
+#pragma once
+
+#include "fakes/FakeSystemConfiguration.h"
+#include "platform/Platform.h"
+
+#include <QPromise>
+
+namespace ardeo
+{
+
+/// A clock that a test drives by hand.
+class FakeClock final : public Clock
+{
+public:
+    std::chrono::nanoseconds continuousTime() const override { return m_now; }
+    QFuture<void> sleep(std::chrono::milliseconds duration) override
+    {
+        auto promise = std::make_shared<QPromise<void>>();
+        promise->start();
+        m_sleepers.append({m_now + duration, promise});
+        return promise->future();
+    }
+    qsizetype sleepers() const { return m_sleepers.size(); }
+    void advance(std::chrono::milliseconds duration)
+    {
+        m_now += duration;
+        m_sleepers.removeIf([this](const Sleeper& sleeper) {
+            if (sleeper.until <= m_now)
+                sleeper.promise->finish();
+            return sleeper.until <= m_now;
+        });
+    }
+
+private:
+    struct Sleeper {
+        std::chrono::nanoseconds until;
+        std::shared_ptr<QPromise<void>> promise;
+    };
+    std::chrono::nanoseconds m_now{};
+    QList<Sleeper> m_sleepers;
+};
+
+class FakeAuthorization final : public Authorization
+{
+public:
+    bool available = true;
+    bool granted = true;
+    int prompts = 0;
+    quint32 flags = 0;
+    QList<quint64> live;
+
+    std::optional<AuthorizationRef> create() override
+    {
+        if (!available)
+            return std::nullopt;
+        live.append(++m_last);
+        return AuthorizationRef{m_last};
+    }
+    bool copyRights(AuthorizationRef, const QString& right, quint32 asked) override
+    {
+        ++prompts;
+        flags = asked;
+        return granted && right == QStringLiteral("system.preferences.network");
+    }
+    void free(AuthorizationRef reference, quint32) override { live.removeOne(reference.handle); }
+
+private:
+    quint64 m_last = 0;
+};
+
+class FakeUserDefaults final : public UserDefaults
+{
+public:
+    QMap<QString, QByteArray> values;
+    int writes = 0;
+    std::optional<QByteArray> data(const QString& key) const override
+    {
+        return values.contains(key) ? std::optional(values.value(key)) : std::nullopt;
+    }
+    void set(const QByteArray& data, const QString& key) override
+    {
+        ++writes;
+        values.insert(key, data);
+    }
+};
+
+class FakeLoginItem final : public LoginItem
+{
+public:
+    Status current = Status::notRegistered;
+    Status status() const override { return current; }
+    std::optional<QString> registerItem() override
+    {
+        current = Status::enabled;
+        return std::nullopt;
+    }
+    std::optional<QString> unregisterItem() override
+    {
+        current = Status::notRegistered;
+        return std::nullopt;
+    }
+};
+
+/// A platform of fakes, and each of them.
+struct FakePlatform {
+    FakeSystemConfiguration* system = new FakeSystemConfiguration;
+    FakeAuthorization* authorization = new FakeAuthorization;
+    FakeLoginItem* loginItem = new FakeLoginItem;
+    FakeUserDefaults* userDefaults = new FakeUserDefaults;
+    FakeClock* clock = new FakeClock;
+    Platform platform{std::unique_ptr<SystemConfiguration>(system),
+                      std::unique_ptr<Authorization>(authorization),
+                      std::unique_ptr<LoginItem>(loginItem),
+                      std::unique_ptr<UserDefaults>(userDefaults),
+                      std::unique_ptr<Clock>(clock),
+                      QStringLiteral("fakes")};
+};
+
+} // namespace ardeo

@@ -1,0 +1,63 @@
+#include "model/MainViewModel.h"
+#include "platform/linux/LinuxPlatform.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace ardeo;
+
+/// One model and the real polkit, as an ordinary user with an agent that gives its consent and counts how
+/// often.
+class ConsentTest : public QObject
+{
+    Q_OBJECT
+
+    static int prompts()
+    {
+        QFile file(qEnvironmentVariable("LAB_PROMPTS"));
+        return file.open(QIODevice::ReadOnly) ? static_cast<int>(file.readAll().count('\n')) : 0;
+    }
+
+    /// Returns when the agent speaks for this process.
+    static void awaitAgent()
+    {
+        QFile registered(qEnvironmentVariable("LAB_REGISTERED"));
+        QVERIFY(registered.open(QIODevice::ReadOnly));
+        registered.readAll();
+    }
+
+    /// Has polkit forget every consent, as it does after some minutes.
+    static void lapse()
+    {
+        QFile request(qEnvironmentVariable("LAB_LAPSE"));
+        QVERIFY(request.open(QIODevice::WriteOnly));
+        request.close();
+        awaitAgent();
+    }
+
+private Q_SLOTS:
+    void consentIsAskedForOnceAndAgainWhenItHasLapsed()
+    {
+        awaitAgent();
+        Platform platform = linuxPlatform(QStringLiteral("/bin/true"));
+        const auto model = MainViewModel::create(platform);
+        QCoro::waitFor(model->loadAdapters());
+        const auto apply = [&] {
+            QCoro::waitFor(model->applyConfiguration());
+            return model->applyError.value().value_or(Text()).string();
+        };
+        QCOMPARE(apply(), QString());
+        QCOMPARE(apply(), QString());
+        QCOMPARE(prompts(), 1);
+        lapse();
+        QCOMPARE(apply(), QStringLiteral("Cannot acquire preferences lock (SC 1003)."));
+        QCOMPARE(prompts(), 1);
+        QCOMPARE(apply(), QString());
+        QCOMPARE(prompts(), 2);
+        const std::weak_ptr<MainViewModel> alive = model;
+        QTRY_VERIFY_WITH_TIMEOUT(alive.use_count() == 1, 10'000); // the follow-up refreshes
+    }
+};
+
+QTEST_GUILESS_MAIN(ConsentTest)
+#include "ConsentTest.moc"

@@ -1,0 +1,320 @@
+#include "model/MainViewModel.h"
+#include "fakes/Fakes.h"
+
+#include <QTest>
+
+using namespace ardeo;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+const QString manualMethod = QStringLiteral("Manual");
+
+QString stateKey(const QString& service)
+{
+    return QStringLiteral("State:/Network/Service/%1/IPv4").arg(service);
+}
+
+/// A model over fakes, with three services of which the second is active.
+struct Fixture {
+    FakePlatform fakes;
+    std::shared_ptr<MainViewModel> model;
+
+    Fixture()
+    {
+        for (const char* name : {"Ethernet", "Wi-Fi", "iPhone USB"})
+            fakes.system->services->append(
+                {.name = QString::fromLatin1(name), .id = QString::fromLatin1(name)});
+        setAddress(QStringLiteral("Wi-Fi"), QStringLiteral("10.0.0.2"));
+        model = MainViewModel::create(fakes.platform);
+    }
+    ~Fixture()
+    {
+        const std::weak_ptr<MainViewModel> alive = model;
+        model.reset();
+        while (!alive.expired()) {
+            fakes.clock->advance(10s);
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+    }
+    Fixture(const Fixture&) = delete;
+    Fixture& operator=(const Fixture&) = delete;
+
+    void setAddress(const QString& service, const QString& address)
+    {
+        fakes.system->state[stateKey(service)] =
+            Dictionary{{QStringLiteral("Addresses"), QStringList(address)}};
+    }
+    QString selected() const
+    {
+        const auto adapter = model->selectedAdapter.value();
+        return adapter ? adapter->serviceName.string() : QString();
+    }
+    Dictionary written(const QString& protocol) const
+    {
+        return (*fakes.system->services)[1].protocols[protocol]->toMap();
+    }
+    /// Starts an action and lets it run until it waits for the clock or has ended.
+    template <typename Action>
+    void start(Action action)
+    {
+        (model.get()->*action)();
+        settle();
+    }
+    void settle() { QTRY_VERIFY(fakes.clock->sleepers() > 0 || !model->isApplying.value()); }
+};
+
+} // namespace
+
+class MainViewModelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void firstListingSelectsTheFirstActiveService()
+    {
+        Fixture fixture;
+        QVERIFY(fixture.fakes.system->calls.isEmpty());
+        QCoro::waitFor(fixture.model->loadAdapters());
+        QCOMPARE(fixture.model->adapters.value().size(), 3);
+        QCOMPARE(fixture.selected(), QStringLiteral("Wi-Fi"));
+        QCOMPARE(fixture.model->ipAddress.value(), Text(QStringLiteral("10.0.0.2")));
+        QVERIFY(!fixture.model->isLoading.value());
+        QVERIFY(!fixture.model->hasChanges());
+    }
+
+    void withoutActiveServicesTheFirstIsSelectedAndWithoutAnyNone()
+    {
+        Fixture fixture;
+        fixture.fakes.system->state.clear();
+        auto services = std::exchange(*fixture.fakes.system->services, {});
+        QCoro::waitFor(fixture.model->loadAdapters());
+        QVERIFY(!fixture.model->selectedAdapter.value());
+        QVERIFY(fixture.model->currentConfig.value().computerName.isEmpty());
+        QVERIFY(!fixture.model->isLoading.value());
+        *fixture.fakes.system->services = services;
+        QCoro::waitFor(fixture.model->refreshAdapters());
+        QVERIFY(!fixture.model->selectedAdapter.value());
+        QCoro::waitFor(fixture.model->loadAdapters());
+        QCOMPARE(fixture.selected(), QStringLiteral("Ethernet"));
+    }
+
+    void refreshFollowsTheSelectedServiceAsLongAsItIsThere()
+    {
+        Fixture fixture;
+        MainViewModel& model = *fixture.model;
+        QCoro::waitFor(model.loadAdapters());
+        model.ipAddress = QStringLiteral("1.2.3.4");
+        QVERIFY(model.hasChanges());
+        (*fixture.fakes.system->services)[1].enabled = false;
+        QCoro::waitFor(model.refreshAdapters());
+        QVERIFY(!model.selectedAdapter.value()->isEnabled);
+        QCOMPARE(model.ipAddress.value(), Text(QStringLiteral("10.0.0.2")));
+
+        fixture.fakes.system->services->removeAt(1);
+        model.ipAddress = QStringLiteral("1.2.3.4");
+        QCoro::waitFor(model.refreshAdapters());
+        QCOMPARE(fixture.selected(), QStringLiteral("Wi-Fi"));
+        QCOMPARE(model.ipAddress.value(), Text(QStringLiteral("1.2.3.4")));
+        QCOMPARE(model.adapters.value().size(), 2);
+    }
+
+    void formIsFilledFromProfilesAndReverted()
+    {
+        Fixture fixture;
+        MainViewModel& model = *fixture.model;
+        QCoro::waitFor(model.loadAdapters());
+        model.populateForm(
+            {.searchDomains = {QStringLiteral("corp.example"), QStringLiteral("lab.example")}});
+        QCOMPARE(model.searchDomains.value(), Text(QStringLiteral("corp.example lab.example")));
+        QVERIFY(model.hasChanges());
+        model.revertForm();
+        model.searchDomains = QStringLiteral("x");
+        QVERIFY(!model.hasChanges());
+
+        const NetworkPreset preset{.serviceName = QStringLiteral("Ethernet"),
+                                   .dnsMode = DNSMode::manual,
+                                   .searchDomains = QStringLiteral(" a  b ")};
+        model.applyError = Text(QStringLiteral("stays"));
+        model.loadPreset(preset);
+        QCOMPARE(model.searchDomains.value(), preset.searchDomains);
+        QCOMPARE(fixture.selected(), QStringLiteral("Wi-Fi"));
+        QVERIFY(model.applyError.value() && model.hasChanges());
+        QCOMPARE(model.currentConfig.value().dnsMode, DNSMode::automatic);
+        model.savePreset(QStringLiteral("Office"));
+        NetworkPreset saved = model.presetStore.presets().last();
+        QCOMPARE(saved.id.version(), QUuid::Random);
+        QCOMPARE(saved.serviceName, Text(QStringLiteral("Wi-Fi")));
+        QCOMPARE(saved.searchDomains, preset.searchDomains);
+        model.revertForm();
+        QVERIFY(!model.applyError.value() && !model.hasChanges());
+    }
+
+    void fieldsTellOnlyOfDifferencesButTheConfigurationAlways()
+    {
+        Fixture fixture;
+        int names = 0;
+        int readings = 0;
+        const auto onName = fixture.model->router.addNotifier([&names] { ++names; });
+        const auto onReading = fixture.model->currentConfig.addNotifier([&readings] { ++readings; });
+        fixture.model->router = QStringLiteral("\u00E9");
+        fixture.model->router = QStringLiteral("e\u0301");
+        QCOMPARE(names, 1);
+        QCOMPARE(fixture.model->router.value().string().size(), 2); // kept as it was given all the same
+        QCoro::waitFor(fixture.model->loadAdapters());
+        QCoro::waitFor(fixture.model->refreshAdapters());
+        QCOMPARE(readings, 2);
+    }
+
+    void applyWritesTheFormAndReadsTwice()
+    {
+        Fixture fixture;
+        MainViewModel& model = *fixture.model;
+        fixture.start(&MainViewModel::applyConfiguration);
+        QCOMPARE(fixture.fakes.authorization->prompts, 0); // nothing selected yet, nothing happens
+        QCoro::waitFor(model.loadAdapters());
+        model.ipv4Mode = IPv4Mode::manual;
+        model.ipAddress = QStringLiteral("10.0.0.9");
+        model.dnsMode = DNSMode::manual;
+        model.searchDomains = QStringLiteral("  corp.example\t\tlab.example\u2003x\ny  ");
+        model.applyError = Text(QStringLiteral("old"));
+        fixture.start(&MainViewModel::applyConfiguration);
+        QVERIFY(model.isApplying.value() && !model.applyError.value());
+        const QStringList domains{QStringLiteral("corp.example"), QStringLiteral("lab.example"),
+                                  QStringLiteral("x\ny")};
+        QCOMPARE(fixture.written(QStringLiteral("DNS")),
+                 (Dictionary{{QStringLiteral("SearchDomains"), domains}}));
+        QCOMPARE(fixture.written(QStringLiteral("IPv4"))[QStringLiteral("Addresses")],
+                 QStringList(QStringLiteral("10.0.0.9")));
+
+        model.router = QStringLiteral("typed meanwhile");
+        fixture.fakes.clock->advance(999ms);
+        QCOMPARE(model.router.value(), Text(QStringLiteral("typed meanwhile")));
+        fixture.fakes.clock->advance(1ms);
+        QTRY_VERIFY(!model.isApplying.value());
+        QVERIFY(model.applySuccess.value());
+        QVERIFY(model.router.value().isEmpty());
+        model.router = QStringLiteral("typed after");
+        fixture.fakes.clock->advance(3s);
+        QTRY_VERIFY(model.router.value().isEmpty());
+        QVERIFY(model.applySuccess.value());
+        QCOMPARE(fixture.fakes.clock->sleepers(), 0);
+        QCoro::waitFor(model.selectAdapter(*model.selectedAdapter.value()));
+        QVERIFY(!model.applySuccess.value());
+    }
+
+    void consentIsAskedForOnceUntilSomethingFails()
+    {
+        Fixture fixture;
+        MainViewModel& model = *fixture.model;
+        FakeAuthorization& authorization = *fixture.fakes.authorization;
+        QCoro::waitFor(model.loadAdapters());
+        const auto attempt = [&](qint32 status) {
+            fixture.fakes.system->refusals[QStringLiteral("commit")] = status;
+            fixture.start(&MainViewModel::applyConfiguration);
+            fixture.fakes.clock->advance(10s);
+            QTRY_VERIFY(!model.isApplying.value());
+            fixture.fakes.clock->advance(10s); // the follow-up too
+            QTRY_COMPARE(fixture.fakes.clock->sleepers(), 0);
+        };
+        attempt(0);
+        attempt(0);
+        QCOMPARE(authorization.prompts, 1);
+        QCOMPARE(authorization.flags, 0x13U);
+        attempt(1003);
+        QCOMPARE(model.applyError.value(), Text(QStringLiteral("Cannot save changes (SC 1003).")));
+        QVERIFY(!model.applySuccess.value() && authorization.live.isEmpty());
+        attempt(0);
+        QCOMPARE(authorization.prompts, 2);
+        QVERIFY(!model.applyError.value());
+        QCOMPARE(fixture.fakes.system->authorization.handle, authorization.live.first());
+
+        model.authService.invalidate();
+        authorization.granted = false;
+        attempt(0);
+        QCOMPARE(model.applyError.value(),
+                 Text(QStringLiteral("Admin authorization was denied or cancelled.")));
+        QVERIFY(authorization.live.isEmpty());
+        authorization.available = false;
+        attempt(0);
+        QCOMPARE(model.applyError.value(), Text(QStringLiteral("Cannot create authorization reference.")));
+    }
+
+    void renewKeepsTheDNSConfiguration()
+    {
+        Fixture fixture;
+        const QVariantMap dns{
+            {QStringLiteral("ServerAddresses"),
+             QStringList{QStringLiteral("1.1.1.1"), QStringLiteral("8.8.8.8"), QStringLiteral("9.9.9.9")}}};
+        auto& protocols = (*fixture.fakes.system->services)[1].protocols;
+        protocols[QStringLiteral("DNS")] = dns;
+        protocols[QStringLiteral("IPv4")] = Dictionary{{QStringLiteral("ConfigMethod"), manualMethod}};
+        QCoro::waitFor(fixture.model->loadAdapters());
+        fixture.model->primaryDNS = QStringLiteral("edited");
+        fixture.start(&MainViewModel::renewDHCPLease);
+        QCOMPARE(fixture.written(QStringLiteral("DNS")), dns);
+        QCOMPARE(fixture.written(QStringLiteral("IPv4")),
+                 (Dictionary{{QStringLiteral("ConfigMethod"), QStringLiteral("DHCP")}}));
+        fixture.fakes.clock->advance(1s);
+        QTRY_VERIFY(fixture.model->applySuccess.value());
+    }
+
+    void switchingReadsOnceAndReportsNoSuccess()
+    {
+        Fixture fixture;
+        MainViewModel& model = *fixture.model;
+        QCoro::waitFor(model.loadAdapters());
+        model.setAdapterEnabled(false);
+        fixture.settle();
+        QVERIFY(model.isApplying.value() && model.selectedAdapter.value()->isEnabled);
+        fixture.fakes.clock->advance(500ms);
+        QTRY_VERIFY(!model.isApplying.value());
+        QVERIFY(!model.selectedAdapter.value()->isEnabled && !model.applySuccess.value());
+        QCOMPARE(fixture.fakes.clock->sleepers(), 0);
+    }
+
+    void selectionMayChangeDuringAnAction()
+    {
+        Fixture fixture;
+        MainViewModel& model = *fixture.model;
+        QCoro::waitFor(model.loadAdapters());
+        model.setAdapterEnabled(false);
+        QCoro::waitFor(model.selectAdapter(model.adapters.value().last()));
+        fixture.settle();
+        QVERIFY(!(*fixture.fakes.system->services)[1].enabled);
+        QVERIFY(model.selectedAdapter.value()->isEnabled);
+    }
+
+    void stalledSystemLeavesTheMainThreadFree()
+    {
+        Fixture fixture;
+        fixture.fakes.system->gate.acquire(1000);
+        fixture.model->loadAdapters();
+        bool ran = false;
+        QMetaObject::invokeMethod(
+            qApp, [&ran] { ran = true; }, Qt::QueuedConnection);
+        QTRY_VERIFY(ran);
+        QVERIFY(fixture.model->isLoading.value());
+        fixture.fakes.system->gate.release(1000);
+        QTRY_VERIFY(!fixture.model->isLoading.value());
+    }
+
+    void actionsKeepTheModelAlive()
+    {
+        Fixture fixture;
+        QCoro::waitFor(fixture.model->loadAdapters());
+        fixture.start(&MainViewModel::applyConfiguration);
+        const std::weak_ptr<MainViewModel> alive = fixture.model;
+        fixture.model.reset();
+        fixture.fakes.clock->advance(1s);
+        QTRY_COMPARE(fixture.fakes.clock->sleepers(), 1);
+        QVERIFY(!alive.expired());
+        fixture.fakes.clock->advance(3s);
+        QTRY_VERIFY(alive.expired());
+    }
+};
+
+QTEST_GUILESS_MAIN(MainViewModelTest)
+#include "MainViewModelTest.moc"

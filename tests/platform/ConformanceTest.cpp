@@ -1,0 +1,223 @@
+#include "platform/linux/BootTimeClock.h"
+#include "platform/linux/LinuxPlatform.h"
+#include "platform/simulated/SimulatedPlatform.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace ardeo;
+
+namespace
+{
+
+const QString name = QStringLiteral("Ardeo-IPConfig");
+const QString ipv4 = QStringLiteral("IPv4");
+const QString dns = QStringLiteral("DNS");
+const QString servers = QStringLiteral("ServerAddresses");
+const Dictionary dhcp{{QStringLiteral("ConfigMethod"), QStringLiteral("DHCP")}};
+
+Dictionary manual(const char* address, const char* mask, const char* router = nullptr)
+{
+    Dictionary dictionary{{QStringLiteral("ConfigMethod"), QStringLiteral("Manual")},
+                          {QStringLiteral("Addresses"), QStringList(QString::fromLatin1(address))},
+                          {QStringLiteral("SubnetMasks"), QStringList(QString::fromLatin1(mask))}};
+    if (router)
+        dictionary[QStringLiteral("Router")] = QString::fromLatin1(router);
+    return dictionary;
+}
+
+/// The live state that a manual configuration leads to.
+Dictionary inForce(Dictionary configuration)
+{
+    configuration.remove(QStringLiteral("ConfigMethod"));
+    return configuration;
+}
+
+} // namespace
+
+/// What the program relies on, asked of whichever platform it runs on: the simulated machine, or (with
+/// ARDEO_CONFORMANCE=networkmanager, in the lab) the real one.
+class ConformanceTest : public QObject
+{
+    Q_OBJECT
+
+    const bool m_real = qEnvironmentVariable("ARDEO_CONFORMANCE") == QStringLiteral("networkmanager");
+    const QTemporaryDir m_folder;
+    Platform m_platform = m_real ? linuxPlatform(QStringLiteral("/bin/true"))
+                                 : simulatedPlatform(m_folder.filePath(QStringLiteral("machine.json")),
+                                                     std::make_unique<BootTimeClock>());
+    SystemConfiguration& m_system = *m_platform.systemConfiguration;
+    const QString m_wired = m_real ? QStringLiteral("Wired connection 1") : QStringLiteral("Ethernet");
+    const QString m_unplugged =
+        m_real ? QStringLiteral("Wired connection 3") : QStringLiteral("Thunderbolt Bridge");
+    const QString m_vpn = QStringLiteral("Office VPN");
+
+    AuthorizationRef consent()
+    {
+        const auto reference = m_platform.authorization->create();
+        const bool granted = reference && m_platform.authorization->copyRights(
+                                              *reference, QStringLiteral("system.preferences.network"), 0x13);
+        return granted ? *reference : AuthorizationRef();
+    }
+    std::unique_ptr<Preferences> open()
+    {
+        return m_system.createPreferencesWithAuthorization(name, consent());
+    }
+
+    static std::shared_ptr<NetworkService> find(Preferences& preferences, const QString& service)
+    {
+        const auto services = preferences.currentSet()->services();
+        for (const auto& candidate : *services) {
+            if (candidate->name() == service)
+                return candidate;
+        }
+        return nullptr;
+    }
+    Dictionary saved(const QString& service, const QString& type)
+    {
+        const auto preferences = m_system.createPreferences(name);
+        return find(*preferences, service)->protocol(type)->configuration()->toMap();
+    }
+    std::optional<QVariant> state(const QString& key)
+    {
+        return m_system.createDynamicStore(name)->value(key);
+    }
+    Dictionary live(const QString& service)
+    {
+        const auto preferences = m_system.createPreferences(name);
+        const QString id = *find(*preferences, service)->serviceID();
+        return state(QStringLiteral("State:/Network/Service/%1/IPv4").arg(id)).value_or(QVariant()).toMap();
+    }
+    /// The whole transaction; the status of the step that was refused, or 0.
+    qint32 change(const QString& service, const std::function<void(NetworkService&)>& step)
+    {
+        const auto preferences = open();
+        if (!preferences->lock(true))
+            return m_system.error();
+        step(*find(*preferences, service));
+        const bool done = preferences->commitChanges() && preferences->applyChanges();
+        const qint32 status = m_system.error();
+        preferences->unlock();
+        return done ? 0 : status;
+    }
+    qint32 write(const QString& service, const Dictionary& addresses, const Dictionary& resolution = {})
+    {
+        return change(service, [&](NetworkService& found) {
+            found.protocol(ipv4)->setConfiguration(addresses);
+            found.protocol(dns)->setConfiguration(resolution);
+        });
+    }
+
+private Q_SLOTS:
+    void servicesAreListedWithTheirState()
+    {
+        const auto preferences = m_system.createPreferences(name);
+        const auto wired = find(*preferences, m_wired);
+        QVERIFY(wired->isEnabled());
+        const QString device = *wired->interface()->bsdName();
+        QVERIFY(!wired->interface()->hardwareAddressString()->isEmpty());
+        QVERIFY(!wired->interface()->localizedDisplayName()->isEmpty());
+        const auto link = state(QStringLiteral("State:/Network/Interface/%1/Link").arg(device))->toMap();
+        QCOMPARE(link[QStringLiteral("Active")], QVariant(true));
+        QCOMPARE(link[QStringLiteral("Duplex")], QVariant(true));
+        QCOMPARE(link[QStringLiteral("Speed")].typeId(), int(QMetaType::LongLong));
+        QVERIFY(state(QStringLiteral("State:/Network/Interface/%1/DHCP").arg(device))
+                    ->toMap()
+                    .contains(QStringLiteral("ServerAddress")));
+        QVERIFY(live(m_wired).contains(QStringLiteral("Router")));
+        QVERIFY(live(m_unplugged).isEmpty());
+        QVERIFY(!find(*preferences, m_vpn)->interface());
+        QVERIFY(!state(QStringLiteral("State:/Network/Interface/none/Link")));
+        QVERIFY(!m_system.createDynamicStore(name)->computerName()->isEmpty());
+    }
+
+    void manualAndAutomaticTakeTurns()
+    {
+        const Dictionary first = manual("10.77.0.60", "255.255.255.0", "10.77.0.1");
+        const Dictionary resolution{
+            {servers, QStringList{QStringLiteral("1.1.1.1"), QStringLiteral("9.9.9.9")}},
+            {QStringLiteral("SearchDomains"), QStringList(QStringLiteral("lab.example"))}};
+        QCOMPARE(write(m_wired, first, resolution), 0);
+        QCOMPARE(saved(m_wired, ipv4), first);
+        QCOMPARE(saved(m_wired, dns), resolution);
+        QTRY_COMPARE(live(m_wired), inForce(first));
+        const Dictionary second = manual("10.77.0.61", "255.255.0.0");
+        Dictionary cleared = second;
+        cleared[QStringLiteral("Router")] = QStringLiteral("...");
+        QCOMPARE(write(m_wired, cleared,
+                       {{servers, QStringList{QStringLiteral("..."), QStringLiteral("1.1.1.1")}}}),
+                 0);
+        QCOMPARE(saved(m_wired, ipv4), second);
+        QCOMPARE(saved(m_wired, dns), (Dictionary{{servers, QStringList(QStringLiteral("1.1.1.1"))}}));
+        QTRY_COMPARE(live(m_wired), inForce(second));
+        QCOMPARE(write(m_wired, dhcp), 0);
+        QCOMPARE(saved(m_wired, ipv4), dhcp);
+        QCOMPARE(saved(m_wired, dns), Dictionary());
+        QTRY_VERIFY(live(m_wired).contains(QStringLiteral("Router")));
+    }
+
+    void whatIsNotInUseIsSavedAllTheSame()
+    {
+        const Dictionary settings = manual("10.99.0.2", "255.255.255.0");
+        for (const QString& service : {m_unplugged, m_vpn}) {
+            QCOMPARE(write(service, settings), 0);
+            QCOMPARE(saved(service, ipv4), settings);
+            QVERIFY(live(service).isEmpty());
+        }
+    }
+
+    void badSettingsAreRefusedWhole()
+    {
+        const Dictionary before = live(m_wired);
+        const Dictionary good = manual("10.77.0.62", "255.255.255.0");
+        const QList<Dictionary> bad{manual("300.1.1.1", "255.255.255.0"),
+                                    manual("", "255.255.255.0"),
+                                    manual("10.77.0.62", "255.0.255.0"),
+                                    manual("10.77.0.62", "255.255.255.0", "abc"),
+                                    {{QStringLiteral("ConfigMethod"), QStringLiteral("BOOTP")}},
+                                    {}};
+        for (const Dictionary& settings : bad)
+            QCOMPARE(write(m_wired, settings), qint32(SystemStatus::invalidArgument));
+        QCOMPARE(write(m_wired, good, {{servers, QStringList(QStringLiteral("fe80::1"))}}),
+                 qint32(SystemStatus::invalidArgument));
+        QCOMPARE(saved(m_wired, ipv4), dhcp);
+        QCOMPARE(live(m_wired), before);
+    }
+
+    void disabledServicesAreDown()
+    {
+        const auto enable = [this](bool on) {
+            return change(m_wired, [on](NetworkService& service) { service.setEnabled(on); });
+        };
+        QCOMPARE(enable(false), 0);
+        QTRY_VERIFY(live(m_wired).isEmpty());
+        QVERIFY(!find(*m_system.createPreferences(name), m_wired)->isEnabled());
+        QCOMPARE(enable(false), 0);
+        QCOMPARE(write(m_wired, dhcp), 0);
+        QVERIFY(live(m_wired).isEmpty());
+        QCOMPARE(enable(true), 0);
+        QTRY_VERIFY(!live(m_wired).isEmpty());
+    }
+
+    void transactionsExcludeEachOther()
+    {
+        const auto refusal = [this](bool done) { return done ? 0 : m_system.error(); };
+        QCOMPARE(refusal(m_system.createPreferences(name)->lock(true)), qint32(SystemStatus::accessError));
+        auto first = open();
+        QCOMPARE(refusal(first->commitChanges()), qint32(SystemStatus::needLock));
+        QCOMPARE(refusal(first->unlock()), qint32(SystemStatus::needLock));
+        QVERIFY(first->lock(true));
+        QCOMPARE(refusal(first->lock(true)), qint32(SystemStatus::locked));
+        const auto second = open();
+        QCOMPARE(refusal(second->lock(false)), qint32(SystemStatus::preferencesBusy));
+        find(*second, m_vpn)->protocol(ipv4)->setConfiguration(dhcp);
+        find(*first, m_vpn)->protocol(ipv4)->setConfiguration(manual("10.99.0.3", "255.255.255.0"));
+        QVERIFY(first->commitChanges());
+        first.reset(); // gives its lock up
+        QVERIFY(second->lock(false));
+        QCOMPARE(refusal(second->commitChanges()), qint32(SystemStatus::stale));
+    }
+};
+
+QTEST_GUILESS_MAIN(ConformanceTest)
+#include "ConformanceTest.moc"

@@ -1,0 +1,89 @@
+#include "store/NetworkPresetStore.h"
+#include "fakes/Fakes.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace ardeo;
+
+namespace
+{
+
+const QString key = QLatin1String(applicationIdentifier) + QStringLiteral(".presets");
+
+NetworkPreset preset(const char* name)
+{
+    return {.name = QString::fromLatin1(name)};
+}
+
+} // namespace
+
+class NetworkPresetStoreTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyChangeIsStoredAndTold()
+    {
+        FakeUserDefaults defaults;
+        NetworkPresetStore store(defaults);
+        QSignalSpy before(&store, &NetworkPresetStore::presetsWillChange);
+        QSignalSpy after(&store, &NetworkPresetStore::presetsDidChange);
+        QVERIFY(store.presets().isEmpty());
+        QCOMPARE(defaults.writes, 0);
+
+        const auto check = [&](int changes, int writes) {
+            QCOMPARE(before.count(), changes);
+            QCOMPARE(after.count(), changes);
+            QCOMPARE(defaults.writes, writes);
+            QCOMPARE(NetworkPresetStore(defaults).presets(), store.presets());
+        };
+        NetworkPreset first = preset("Office");
+        store.upsert(first);
+        check(1, 1);
+        store.upsert(preset("Office")); // a name of its own is not needed
+        check(2, 2);
+        first.name = QStringLiteral("Home");
+        store.upsert(first);
+        check(3, 3);
+        QCOMPARE(store.presets().first().name, Text(QStringLiteral("Home")));
+        QCOMPARE(store.presets().size(), 2);
+        store.remove(QUuid::createUuid());
+        check(4, 4);
+        QCOMPARE(store.presets().size(), 2);
+        store.setPresets(QList<NetworkPreset>(store.presets()));
+        check(4, 5);
+        store.remove(first.id);
+        check(5, 6);
+        store.setPresets({});
+        check(6, 7);
+        QCOMPARE(defaults.values[key], QByteArray("[]"));
+    }
+
+    void unreadableListIsPutAside()
+    {
+        FakeUserDefaults defaults;
+        defaults.values[key] = "[{}]";
+        NetworkPresetStore store(defaults);
+        QVERIFY(store.presets().isEmpty());
+        QCOMPARE(defaults.values[key], QByteArray("[{}]"));
+        store.upsert(preset("Office"));
+        store.upsert(preset("Home"));
+        QCOMPARE(defaults.values[key + QStringLiteral(".unreadable")], QByteArray("[{}]"));
+        QCOMPARE(NetworkPresetStore(defaults).presets().size(), 2);
+    }
+
+    void listThatCannotBeEncodedStaysInMemory()
+    {
+        FakeUserDefaults defaults;
+        NetworkPresetStore store(defaults);
+        store.upsert(preset("Office"));
+        const QByteArray stored = defaults.values[key];
+        store.upsert({.name = QString(QChar(0xDC00))});
+        QCOMPARE(store.presets().size(), 2);
+        QCOMPARE(defaults.values[key], stored);
+    }
+};
+
+QTEST_GUILESS_MAIN(NetworkPresetStoreTest)
+#include "NetworkPresetStoreTest.moc"
