@@ -81,12 +81,14 @@ public:
 
     QByteArray profiles()
     {
+        throwAbsence();
         const auto& presets = m_model->presetStore.presets();
         return m_arguments.json ? encoded() + '\n' : presetsAsTable(presets, m_colour).toUtf8();
     }
 
     QByteArray exportProfiles()
     {
+        throwAbsence();
         const QByteArray bytes = encoded();
         QFile file(m_arguments.file);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
@@ -98,6 +100,13 @@ private:
     void throwTrouble()
     {
         if (const auto trouble = m_platform.trouble())
+            fail(*trouble);
+    }
+
+    /// For commands that do not ask the system for anything else.
+    void throwAbsence()
+    {
+        if (const auto trouble = m_platform.probe())
             fail(*trouble);
     }
 

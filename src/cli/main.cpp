@@ -21,22 +21,26 @@ QString windowProgram()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/ardeo-ip-config");
 }
 
+/// The trouble as it is told to somebody who let us choose the system.
+std::optional<QString> withAdvice(std::optional<QString> trouble)
+{
+    if (trouble == QStringLiteral("NetworkManager is not running."))
+        return QStringLiteral("NetworkManager is not running; --system=simulated works without it.");
+    return trouble;
+}
+
 Platform platformFor(const Arguments& arguments)
 {
     if (arguments.system == Arguments::System::simulated) {
         return simulatedPlatform(arguments.stateFile.value_or(defaultSimulatedMachineFile()),
                                  std::make_unique<BootTimeClock>());
     }
-    return linuxPlatform(windowProgram());
-}
-
-/// Why the chosen system cannot be used; none when it can.
-std::optional<QString> troubleWith(Arguments::System system)
-{
-    const auto trouble = system == Arguments::System::simulated ? std::nullopt : networkManagerTrouble();
-    if (trouble == QStringLiteral("NetworkManager is not running.") && system == Arguments::System::automatic)
-        return QStringLiteral("NetworkManager is not running; --system=simulated works without it.");
-    return trouble;
+    Platform platform = linuxPlatform(windowProgram());
+    if (arguments.system == Arguments::System::automatic) {
+        for (auto* question : {&platform.trouble, &platform.probe})
+            *question = [ask = *question] { return withAdvice(ask()); };
+    }
+    return platform;
 }
 
 Outcome outcomeOf(const QStringList& commandLine, bool colour)
@@ -47,10 +51,6 @@ Outcome outcomeOf(const QStringList& commandLine, bool colour)
     const auto& arguments = std::get<Arguments>(parsed);
     if (arguments.command == Arguments::Command::help)
         return {.status = 0, .output = helpText().toUtf8(), .error = {}};
-    if (arguments.command != Arguments::Command::version) {
-        if (const auto trouble = troubleWith(arguments.system))
-            return {.status = 1, .output = {}, .error = *trouble};
-    }
     Platform platform = platformFor(arguments);
     if (arguments.command == Arguments::Command::version) {
         const QString text =

@@ -14,7 +14,7 @@ namespace ardeo
 namespace
 {
 
-constexpr int probeMilliseconds = 9'000;
+constexpr int probeMilliseconds = 10'000;
 
 std::optional<QString> troubleOf(DaemonPresence presence)
 {
@@ -31,17 +31,13 @@ std::optional<QString> troubleOf(DaemonPresence presence)
 
 } // namespace
 
-std::optional<QString> networkManagerTrouble()
-{
-    return troubleOf(probeNetworkManager(probeMilliseconds));
-}
-
 Platform linuxPlatform(const QString& program)
 {
     const QDir configuration(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
     auto networkManager = std::make_unique<NetworkManagerConfiguration>();
     Platform platform;
     platform.trouble = [system = networkManager.get()] { return troubleOf(system->presence()); };
+    platform.probe = [] { return troubleOf(probeNetworkManager(probeMilliseconds)); };
     platform.systemConfiguration = std::move(networkManager);
     platform.authorization = std::make_unique<PolkitAuthorization>();
     platform.loginItem =

@@ -32,8 +32,12 @@ NMClient* NetworkManagerSession::client()
         return nullptr;
     }
     const auto result =
-        m_loop.call(m_deadline, [](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-            nm_client_new_async(cancellable, done, data);
+        m_loop.call(m_deadline, [&bus](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+            // The permissions of this process are not asked for: that is polkit's to tell, and only when
+            // needed.
+            g_async_initable_new_async(NM_TYPE_CLIENT, G_PRIORITY_DEFAULT, cancellable, done, data,
+                                       NM_CLIENT_DBUS_CONNECTION, bus.get(), NM_CLIENT_INSTANCE_FLAGS,
+                                       NM_CLIENT_INSTANCE_FLAGS_NO_AUTO_FETCH_PERMISSIONS, nullptr);
         });
     m_client.reset(nm_client_new_finish(result.get(), nullptr));
     if (m_client && nm_client_get_nm_running(m_client.get())) {
