@@ -59,18 +59,13 @@ QString takeWords(Arguments& arguments, QString& name, QStringList words)
 
 QString takeSystem(Arguments& arguments, const QCommandLineParser& parser)
 {
-    static const QHash<QString, Arguments::System> systems{
-        {QStringLiteral("auto"), Arguments::System::automatic},
-        {QStringLiteral("networkmanager"), Arguments::System::networkManager},
-        {QStringLiteral("simulated"), Arguments::System::simulated},
-    };
-    const auto system = systems.constFind(parser.value(QStringLiteral("system")));
-    if (system == systems.constEnd())
+    const auto system = systemChoiceFromText(parser.value(QStringLiteral("system")));
+    if (!system)
         return QStringLiteral("--system is auto, networkmanager or simulated.");
     arguments.system = *system;
     if (parser.isSet(QStringLiteral("state"))) {
         arguments.stateFile = parser.value(QStringLiteral("state"));
-        if (arguments.system != Arguments::System::simulated)
+        if (arguments.system != SystemChoice::simulated)
             return QStringLiteral("--state goes with --system=simulated.");
         if (arguments.stateFile->isEmpty())
             return QStringLiteral("--state needs a file.");

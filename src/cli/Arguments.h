@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/linux/SystemChoice.h"
+
 #include <QStringList>
 
 #include <optional>
@@ -10,10 +12,9 @@ namespace ardeo
 
 /// What a command line asks for.
 struct Arguments {
-    enum class System { automatic, networkManager, simulated };
     enum class Command { help, version, list, show, apply, renew, enable, disable, profiles, exportProfiles };
 
-    System system = System::automatic;
+    SystemChoice system = SystemChoice::automatic;
     /// The simulated machine's file, where one is named.
     std::optional<QString> stateFile;
     Command command = Command::help;

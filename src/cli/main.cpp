@@ -1,8 +1,6 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
-#include "platform/linux/BootTimeClock.h"
-#include "platform/linux/LinuxPlatform.h"
-#include "platform/simulated/SimulatedPlatform.h"
+#include "platform/linux/SystemChoice.h"
 
 #include <QCoreApplication>
 
@@ -21,28 +19,6 @@ QString windowProgram()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/ardeo-ip-config");
 }
 
-/// The trouble as it is told to somebody who let us choose the system.
-std::optional<QString> withAdvice(std::optional<QString> trouble)
-{
-    if (trouble == QStringLiteral("NetworkManager is not running."))
-        return QStringLiteral("NetworkManager is not running; --system=simulated works without it.");
-    return trouble;
-}
-
-Platform platformFor(const Arguments& arguments)
-{
-    if (arguments.system == Arguments::System::simulated) {
-        return simulatedPlatform(arguments.stateFile.value_or(defaultSimulatedMachineFile()),
-                                 std::make_unique<BootTimeClock>());
-    }
-    Platform platform = linuxPlatform(windowProgram());
-    if (arguments.system == Arguments::System::automatic) {
-        for (auto* question : {&platform.trouble, &platform.probe})
-            *question = [ask = *question] { return withAdvice(ask()); };
-    }
-    return platform;
-}
-
 Outcome outcomeOf(const QStringList& commandLine, bool colour)
 {
     const auto parsed = parseArguments(commandLine);
@@ -51,7 +27,7 @@ Outcome outcomeOf(const QStringList& commandLine, bool colour)
     const auto& arguments = std::get<Arguments>(parsed);
     if (arguments.command == Arguments::Command::help)
         return {.status = 0, .output = helpText().toUtf8(), .error = {}};
-    Platform platform = platformFor(arguments);
+    Platform platform = platformFor(arguments.system, arguments.stateFile, windowProgram());
     if (arguments.command == Arguments::Command::version) {
         const QString text =
             QStringLiteral("ardeoctl %1 on %2\n").arg(QStringLiteral(ARDEO_VERSION), platform.description);

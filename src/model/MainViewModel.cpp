@@ -3,6 +3,7 @@
 #include "backend/Errors.h"
 
 #include <QCoroFuture>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -114,28 +115,27 @@ QCoro::Task<> MainViewModel::loadCurrentConfig(AdapterInfo adapter)
     isLoading = false;
 }
 
+template <typename Settings>
+void MainViewModel::fillForm(const Settings& settings, const Text& domains)
+{
+    ipv4Mode = settings.ipv4Mode;
+    ipAddress = settings.ipAddress;
+    subnetMask = settings.subnetMask;
+    router = settings.router;
+    dnsMode = settings.dnsMode;
+    primaryDNS = settings.primaryDNS;
+    alternateDNS = settings.alternateDNS;
+    searchDomains = domains;
+}
+
 void MainViewModel::populateForm(const NetworkAdapterInfo& configuration)
 {
-    ipv4Mode = configuration.ipv4Mode;
-    ipAddress = configuration.ipAddress;
-    subnetMask = configuration.subnetMask;
-    router = configuration.router;
-    dnsMode = configuration.dnsMode;
-    primaryDNS = configuration.primaryDNS;
-    alternateDNS = configuration.alternateDNS;
-    searchDomains = joinDomains(configuration.searchDomains);
+    fillForm(configuration, joinDomains(configuration.searchDomains));
 }
 
 void MainViewModel::loadPreset(const NetworkPreset& preset)
 {
-    ipv4Mode = preset.ipv4Mode;
-    ipAddress = preset.ipAddress;
-    subnetMask = preset.subnetMask;
-    router = preset.router;
-    dnsMode = preset.dnsMode;
-    primaryDNS = preset.primaryDNS;
-    alternateDNS = preset.alternateDNS;
-    searchDomains = preset.searchDomains;
+    fillForm(preset, preset.searchDomains);
 }
 
 void MainViewModel::revertForm()
@@ -265,6 +265,34 @@ void MainViewModel::savePreset(const Text& name)
         .alternateDNS = alternateDNS.value(),
         .searchDomains = searchDomains.value(),
     });
+}
+
+bool MainViewModel::exportPresets()
+{
+    const auto place = m_platform.filePanels->askWhereToSave(
+        QStringLiteral("Ardeo IP Config.profiles"), QStringLiteral("Export Ardeo IP Config profiles"));
+    if (!place)
+        return true;
+    const auto bytes = encodePresets(presetStore.presets());
+    QFile file(*place);
+    return bytes && file.open(QIODevice::WriteOnly) && file.write(*bytes) == bytes->size() && file.flush();
+}
+
+void MainViewModel::importPresets()
+{
+    const auto place = m_platform.filePanels->askWhatToOpen(
+        QStringLiteral("Select an Ardeo IP Config profiles file (.profiles)"));
+    if (!place)
+        return;
+    QFile file(*place);
+    std::optional<QList<NetworkPreset>> presets;
+    // Reading from anything but a file could wait for ever.
+    if (QFileInfo(*place).isFile() && file.open(QIODevice::ReadOnly))
+        presets = decodePresets(file.readAll());
+    if (presets)
+        presetStore.upsertAll(*presets);
+    else
+        applyError = Text(QStringLiteral("Could not read profiles file."));
 }
 
 } // namespace ardeo

@@ -82,6 +82,10 @@ public:
 
     /// Saves the form as a new profile of the selected service; does nothing where none is selected.
     void savePreset(const Text& name);
+    /// Writes all profiles to a file that the user chooses; false when that fails. Cancelling is no failure.
+    bool exportPresets();
+    /// Merges the profiles of a file that the user chooses into the list, by their ids.
+    void importPresets();
 
 private:
     Platform& m_platform;
@@ -94,6 +98,8 @@ public:
 private:
     using DNSHandling = NetworkConfigService::DNSHandling;
 
+    template <typename Settings>
+    void fillForm(const Settings& settings, const Text& domains);
     QCoro::Task<> write(NetworkAdapterInfo configuration, DNSHandling dns);
     void beginAction();
     void failAction(const QString& description);

@@ -14,6 +14,8 @@ public:
     virtual ~Clock() = default;
     /// Time since some fixed moment; goes on while the machine sleeps, and is never set back.
     virtual std::chrono::nanoseconds continuousTime() const = 0;
+    /// The date, as seconds since 1 January 2001, 00:00:00 UTC.
+    virtual double referenceTime() const = 0;
     /// Finishes when that much continuous time has passed; cancelling it ends the wait early.
     virtual QFuture<void> sleep(std::chrono::milliseconds duration) = 0;
 };

@@ -2,6 +2,7 @@
 
 #include "platform/Authorization.h"
 #include "platform/Clock.h"
+#include "platform/FilePanels.h"
 #include "platform/LoginItem.h"
 #include "platform/SystemConfiguration.h"
 #include "platform/UserDefaults.h"
@@ -19,6 +20,8 @@ struct Platform {
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<Clock> clock;
+    /// Null where there is no desktop to ask on.
+    std::unique_ptr<FilePanels> filePanels;
     /// Says which system this is, for people.
     QString description;
     /// Why the system could not be reached the last time it was asked, as a sentence; none when it answered.

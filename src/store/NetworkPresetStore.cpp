@@ -2,7 +2,7 @@
 
 #include "platform/Platform.h"
 
-#include <algorithm>
+#include <QHash>
 
 namespace ardeo
 {
@@ -33,12 +33,24 @@ void NetworkPresetStore::setPresets(const QList<NetworkPreset>& presets)
 
 void NetworkPresetStore::upsert(const NetworkPreset& preset)
 {
+    upsertAll({preset});
+}
+
+void NetworkPresetStore::upsertAll(const QList<NetworkPreset>& presets)
+{
     Q_EMIT presetsWillChange();
-    const auto known = std::ranges::find(m_presets, preset.id, &NetworkPreset::id);
-    if (known != m_presets.end())
-        *known = preset;
-    else
-        m_presets.append(preset);
+    QHash<QUuid, qsizetype> positions;
+    for (qsizetype i = m_presets.size() - 1; i >= 0; --i)
+        positions.insert(m_presets.at(i).id, i); // the first of several with one id remains
+    for (const NetworkPreset& preset : presets) {
+        const auto known = positions.constFind(preset.id);
+        if (known != positions.constEnd()) {
+            m_presets[*known] = preset;
+        } else {
+            positions.insert(preset.id, m_presets.size());
+            m_presets.append(preset);
+        }
+    }
     Q_EMIT presetsDidChange();
     persist();
 }

@@ -23,6 +23,8 @@ public:
     void setPresets(const QList<NetworkPreset>& presets);
     /// Replaces the first profile with the same id in its place, or adds a new one at the end.
     void upsert(const NetworkPreset& preset);
+    /// The same for each of them in turn, stored and told once.
+    void upsertAll(const QList<NetworkPreset>& presets);
     /// Removes every profile with that id. Observers are told also if there is none.
     void remove(const QUuid& id);
 

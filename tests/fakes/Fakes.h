@@ -13,6 +13,7 @@ class FakeClock final : public Clock
 {
 public:
     std::chrono::nanoseconds continuousTime() const override { return m_now; }
+    double referenceTime() const override { return 800e6 + std::chrono::duration<double>(m_now).count(); }
     QFuture<void> sleep(std::chrono::milliseconds duration) override
     {
         auto promise = std::make_shared<QPromise<void>>();
@@ -101,6 +102,15 @@ public:
     }
 };
 
+/// Answers every panel with the same place.
+class FakeFilePanels final : public FilePanels
+{
+public:
+    std::optional<QString> place;
+    std::optional<QString> askWhereToSave(const QString&, const QString&) override { return place; }
+    std::optional<QString> askWhatToOpen(const QString&) override { return place; }
+};
+
 /// A platform of fakes, and each of them.
 struct FakePlatform {
     FakeSystemConfiguration* system = new FakeSystemConfiguration;
@@ -108,11 +118,13 @@ struct FakePlatform {
     FakeLoginItem* loginItem = new FakeLoginItem;
     FakeUserDefaults* userDefaults = new FakeUserDefaults;
     FakeClock* clock = new FakeClock;
+    FakeFilePanels* filePanels = new FakeFilePanels;
     Platform platform{std::unique_ptr<SystemConfiguration>(system),
                       std::unique_ptr<Authorization>(authorization),
                       std::unique_ptr<LoginItem>(loginItem),
                       std::unique_ptr<UserDefaults>(userDefaults),
                       std::unique_ptr<Clock>(clock),
+                      std::unique_ptr<FilePanels>(filePanels),
                       QStringLiteral("fakes")};
 };
 

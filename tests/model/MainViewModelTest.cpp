@@ -1,6 +1,7 @@
 #include "model/MainViewModel.h"
 #include "fakes/Fakes.h"
 
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace ardeo;
@@ -285,6 +286,40 @@ private Q_SLOTS:
         fixture.settle();
         QVERIFY(!(*fixture.fakes.system->services)[1].enabled);
         QVERIFY(model.selectedAdapter.value()->isEnabled);
+    }
+
+    void profilesTravelThroughFiles()
+    {
+        Fixture fixture;
+        MainViewModel& model = *fixture.model;
+        const QTemporaryDir folder;
+        const auto file = [&](const QByteArray& content) {
+            fixture.fakes.filePanels->place = folder.filePath(QStringLiteral("file"));
+            QFile out(*fixture.fakes.filePanels->place);
+            QVERIFY(out.open(QIODevice::WriteOnly));
+            out.write(content);
+        };
+        QCoro::waitFor(model.loadAdapters());
+        model.savePreset(QStringLiteral("Office"));
+        model.savePreset(QStringLiteral("Office"));
+        const auto presets = model.presetStore.presets();
+        file("old");
+        QVERIFY(model.exportPresets());
+        model.importPresets();
+        QCOMPARE(model.presetStore.presets(), presets);
+        model.presetStore.setPresets({presets.last()});
+        model.importPresets();
+        QCOMPARE(model.presetStore.presets(), (QList{presets.last(), presets.first()}));
+        QVERIFY(!model.applyError.value());
+        for (const char* bad : {"", "{}", "[{}]"}) {
+            model.applyError = std::nullopt;
+            file(bad);
+            model.importPresets();
+            QCOMPARE(model.applyError.value(), Text(QStringLiteral("Could not read profiles file.")));
+        }
+        QCOMPARE(model.presetStore.presets().size(), 2);
+        fixture.fakes.filePanels->place = folder.path();
+        QVERIFY(!model.exportPresets());
     }
 
     void stalledSystemLeavesTheMainThreadFree()

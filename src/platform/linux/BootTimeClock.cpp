@@ -1,5 +1,6 @@
 #include "platform/linux/BootTimeClock.h"
 
+#include <QDateTime>
 #include <QPromise>
 #include <QSocketNotifier>
 
@@ -16,6 +17,12 @@ std::chrono::nanoseconds BootTimeClock::continuousTime() const
     timespec now{};
     clock_gettime(CLOCK_BOOTTIME, &now);
     return std::chrono::seconds(now.tv_sec) + std::chrono::nanoseconds(now.tv_nsec);
+}
+
+double BootTimeClock::referenceTime() const
+{
+    constexpr qint64 referenceDate = 978'307'200'000; // milliseconds from the Unix epoch to it
+    return static_cast<double>(QDateTime::currentMSecsSinceEpoch() - referenceDate) / 1000;
 }
 
 QFuture<void> BootTimeClock::sleep(std::chrono::milliseconds duration)

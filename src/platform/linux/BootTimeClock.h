@@ -10,6 +10,7 @@ class BootTimeClock final : public Clock
 {
 public:
     std::chrono::nanoseconds continuousTime() const override;
+    double referenceTime() const override;
     QFuture<void> sleep(std::chrono::milliseconds duration) override;
 };
 
