@@ -5,8 +5,10 @@ build_packages=(
     qt6-base-dev libqt6svg6-dev qcoro-qt6-dev nlohmann-json3-dev libnm-dev libpolkit-gobject-1-dev
 )
 test_packages=(
-    clang-format network-manager polkitd dnsmasq-base dbus iproute2 util-linux
+    clang-format network-manager polkitd dnsmasq-base dbus dbus-bin iproute2 util-linux bsdutils
+    libatspi2.0-dev at-spi2-core xvfb openbox fonts-dejavu-core
 )
+screenshot_packages=(fonts-inter fonts-dejavu-core)
 
 # need_packages PACKAGE...: returns when all of them are installed; ends the script when that cannot be had.
 need_packages() {

@@ -1,0 +1,74 @@
+#include "ui/ContentView.h"
+
+#include "ui/LeftPanel.h"
+#include "ui/RightPanel.h"
+#include "ui/Style.h"
+
+#include <QPainter>
+#include <QShowEvent>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace ardeo
+{
+
+namespace
+{
+
+constexpr int sidebarMinimum = 240;
+constexpr int sidebarIdeal = 260;
+constexpr int sidebarMaximum = 300;
+
+/// A divider that is one point wide and yet can be taken hold of.
+class Splitter final : public QSplitter
+{
+public:
+    using QSplitter::QSplitter;
+
+protected:
+    class Handle final : public QSplitterHandle
+    {
+    public:
+        using QSplitterHandle::QSplitterHandle;
+
+    protected:
+        void paintEvent(QPaintEvent*) override
+        {
+            QPainter painter(this);
+            painter.fillRect(rect(), look::colours(this).sidebar);
+            painter.fillRect(rect(), look::colours(this).separator);
+        }
+    };
+    QSplitterHandle* createHandle() override { return new Handle(orientation(), this); }
+};
+
+} // namespace
+
+ContentView::ContentView(MainViewModel& model, Clock& clock, QWidget* parent) : QWidget(parent), vm(model)
+{
+    auto* columns = new Splitter(Qt::Horizontal);
+    auto* sidebar = new LeftPanel(vm);
+    sidebar->setMinimumWidth(sidebarMinimum);
+    sidebar->setMaximumWidth(sidebarMaximum);
+    auto* detail = new RightPanel(vm, clock);
+    columns->addWidget(sidebar);
+    columns->addWidget(detail);
+    columns->setChildrenCollapsible(false);
+    columns->setStretchFactor(0, 0);
+    columns->setStretchFactor(1, 1);
+    columns->setSizes({sidebarIdeal, 10'000});
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(columns);
+}
+
+void ContentView::showEvent(QShowEvent* event)
+{
+    // Coming back from being minimised is no new appearance.
+    if (event->spontaneous())
+        return;
+    setFocus(); // no control has it before the user has chosen one
+    vm.loadAdapters();
+}
+
+} // namespace ardeo

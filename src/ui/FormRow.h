@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QWidget>
+
+namespace ardeo
+{
+
+/// A label of fixed width, followed by an editor whose accessible name it gives.
+class FormRow final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    FormRow(const QString& label, QWidget* content, QWidget* parent = nullptr);
+};
+
+/// The width of every label column, in points.
+inline constexpr int labelColumnWidth = 120;
+
+} // namespace ardeo

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "ui/NeuralNetworkFrame.h"
+
+#include <QWidget>
+
+#include <functional>
+
+namespace ardeo
+{
+
+/// A slowly drifting network behind a view's content. It lets every click through, and moves only while it
+/// can be seen and the user does not want less motion.
+class NeuralNetworkBackground final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    NeuralNetworkBackground(Clock& clock, double maxDist, double speed, QWidget* parent);
+
+    /// Tells which part is covered by what lies above. Painting that anew for each frame would cost far more
+    /// than the frame, so it follows a few times a second only.
+    void setCovered(std::function<QRegion()> covered);
+    /// The current frame so strongly blurred that it changes slowly: what shows through a card.
+    const QImage& backdrop();
+    /// Whether frames are being drawn.
+    bool isTicking() const { return m_timer != 0; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void startOrStop();
+    void draw();
+
+    Clock& m_clock;
+    double m_maxDist;
+    double m_speed;
+    std::function<QRegion()> m_covered = [] { return QRegion(); };
+    NeuralNetworkRenderer m_renderer;
+    QImage m_frame;
+    QImage m_backdrop;
+    double m_time = 0;
+    int m_timer = 0;
+    int m_ticks = 0;
+};
+
+} // namespace ardeo

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "model/MainViewModel.h"
+#include "ui/NeuralNetworkBackground.h"
+
+#include <QBoxLayout>
+
+namespace ardeo
+{
+
+class Card;
+class ConfirmationDialog;
+class PushButton;
+
+/// The form with the settings to apply, the live state of the selected service, and the buttons that act on
+/// it.
+class RightPanel final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    RightPanel(MainViewModel& vm, Clock& clock, QWidget* parent = nullptr);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QWidget* makeEmptyState();
+    QWidget* makeContent();
+    QWidget* makeHeader();
+    QWidget* makeProfileCard();
+    QWidget* makeIPv4Section();
+    QWidget* makeDNSSection();
+    QWidget* makeFeedback();
+    QWidget* makeAdapterCard();
+    QWidget* makeLiveState();
+    QWidget* makeStatusRow();
+    QWidget* makeEnableButton();
+    void followDisableConfirm();
+    QRegion covered() const;
+
+    MainViewModel& vm;
+    Observed<bool> showDisableConfirm{false};
+    NeuralNetworkBackground* m_background;
+    /// What hides the background, for its sake.
+    QList<QWidget*> m_covering;
+    QPropertyNotifier m_maskDefault;
+};
+
+} // namespace ardeo

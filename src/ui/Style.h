@@ -1,0 +1,110 @@
+#pragma once
+
+#include "ui/NeuralNetworkFrame.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPainterPath>
+#include <QProxyStyle>
+#include <QWidget>
+
+namespace ardeo
+{
+
+/// The sizes of text, on the user's own font.
+enum class TextStyle {
+    title,
+    title2,
+    title3,
+    headline,
+    body,
+    callout,
+    subheadline,
+    footnote,
+    caption,
+    caption2
+};
+
+/// How much a text stands out.
+enum class Emphasis { primary, secondary, tertiary };
+
+/// The colours of one colour scheme.
+struct Colours {
+    QColor primary;
+    QColor secondary;
+    QColor tertiary;
+    QColor teal;
+    /// Teal as a ground for white text.
+    QColor tealFill;
+    QColor accent;
+    QColor red;
+    QColor green;
+    QColor separator;
+    QColor textBackground;
+    QColor tertiaryFill;
+    QColor window;
+    QColor sidebar;
+    /// What a card lays over the blurred ground below it.
+    QColor material;
+    QColor control;
+    QColor controlHovered;
+    QColor controlPressed;
+
+    const QColor& of(Emphasis emphasis) const;
+};
+
+/// The one place that says what things look like.
+namespace look
+{
+
+/// The scheme that a widget is shown in, by its palette.
+ColorScheme schemeOf(const QWidget* widget);
+const Colours& colours(ColorScheme scheme);
+inline const Colours& colours(const QWidget* widget)
+{
+    return colours(schemeOf(widget));
+}
+/// The palette that puts the whole program into a scheme.
+QPalette palette(ColorScheme scheme);
+
+QFont font(TextStyle style, int weight = -1);
+QFont monospacedFont(TextStyle style, int weight = -1);
+
+QColor withOpacity(QColor colour, double opacity);
+
+/// The part of a widget's rectangle that begins and ends on whole device pixels, so that edges are sharp at
+/// any scale.
+QRectF deviceAligned(const QWidget* widget, const QRectF& rect);
+
+/// A rounded rectangle whose corners run smoothly into its sides.
+QPainterPath continuousRect(const QRectF& rect, double radius);
+/// Strokes the shape within its bounds.
+void strokeInside(QPainter& painter, const QRectF& rect, double radius, const QColor& colour, double width);
+
+/// The time that a transition may take, in milliseconds: none where the user wants less motion.
+int duration(const QWidget* widget, int milliseconds);
+
+/// A line between two parts of a view.
+QWidget* divider(QWidget* parent, double opacity = 1);
+
+} // namespace look
+
+/// The style of the platform-independent controls, and the user's wish for less motion.
+class ArdeoStyle final : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    ArdeoStyle();
+    void setReducedMotion(bool reduced);
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+
+private:
+    bool m_reducedMotion = false;
+};
+
+} // namespace ardeo

@@ -1,0 +1,269 @@
+// Takes pictures of the window in its typical states, on a simulated machine made for the purpose.
+// ardeo-screenshots FOLDER; needs no display with QT_QPA_PLATFORM=offscreen. QT_SCALE_FACTOR gives other
+// scales.
+
+#include "app/Ardeo_IPConfigApp.h"
+#include "platform/linux/BootTimeClock.h"
+#include "platform/simulated/SimulatedPlatform.h"
+#include "ui/IPAddressField.h"
+#include "ui/PresetList.h"
+#include "ui/PushButton.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace ardeo;
+
+namespace
+{
+
+/// A clock that stands still, so that the pictures are the same each time, and whose waits last until they
+/// are let go of.
+class StillClock final : public Clock
+{
+public:
+    std::chrono::nanoseconds continuousTime() const override { return {}; }
+    double referenceTime() const override { return 817'000'123; }
+    QFuture<void> sleep(std::chrono::milliseconds) override
+    {
+        m_sleepers.append(std::make_shared<QPromise<void>>());
+        m_sleepers.last()->start();
+        return m_sleepers.last()->future();
+    }
+    void wake()
+    {
+        for (const auto& sleeper : std::exchange(m_sleepers, {}))
+            sleeper->finish();
+    }
+
+private:
+    QList<std::shared_ptr<QPromise<void>>> m_sleepers;
+};
+
+template <typename Condition>
+void waitFor(Condition condition)
+{
+    while (!condition())
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 20);
+}
+
+void settle(int milliseconds = 400)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// One window on a machine of its own.
+class Stage
+{
+public:
+    explicit Stage(const QDir& folder, QSize size, const QByteArray& machine = {})
+        : m_folder(folder)
+        , m_clock(new StillClock)
+        , m_platform(platformIn(m_place.filePath(QStringLiteral("machine.json")), machine, m_clock))
+        , vm(MainViewModel::create(m_platform))
+    {
+        setUpMainWindow(m_window, new ContentView(*vm, *m_platform.clock));
+        m_window.resize(size);
+        m_window.show();
+        waitFor([this] { return !vm->isLoading.value(); });
+    }
+    ~Stage()
+    {
+        std::weak_ptr<MainViewModel> alive = vm;
+        m_window.close();
+        vm->isApplying = false;
+    }
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+
+    void addProfiles()
+    {
+        vm->presetStore.setPresets({
+            {.name = QStringLiteral("Office"),
+             .serviceName = QStringLiteral("Wi-Fi"),
+             .ipv4Mode = IPv4Mode::manual,
+             .ipAddress = QStringLiteral("192.168.1.77"),
+             .subnetMask = QStringLiteral("255.255.255.0")},
+            {.name = QStringLiteral("Home WiFi"), .serviceName = QStringLiteral("Wi-Fi")},
+            {.name = QStringLiteral("Lab bench, second floor, behind the oscilloscope"),
+             .serviceName = QStringLiteral("Ethernet"),
+             .ipv4Mode = IPv4Mode::manual},
+            {.name = QStringLiteral("Αίθουσα Датацентр حرم"),
+             .serviceName = QStringLiteral("Ethernet"),
+             .ipv4Mode = IPv4Mode::manual},
+            {.name = QStringLiteral("Customer PLC"),
+             .serviceName = QStringLiteral("Ethernet"),
+             .ipv4Mode = IPv4Mode::manual},
+        });
+    }
+    template <typename Widget>
+    Widget* find(const QString& name)
+    {
+        for (Widget* widget : m_window.findChildren<Widget*>()) {
+            if (widget->accessibleName() == name || widget->property("text").toString() == name)
+                return widget;
+        }
+        return nullptr;
+    }
+    void click(const char* button) { find<PushButton>(QString::fromUtf8(button))->click(); }
+    void hover(int row)
+    {
+        auto* list = m_window.findChild<PresetList*>();
+        const QPointF place = list->visualRect(list->model()->index(row, 0)).center();
+        QMouseEvent move(QEvent::MouseMove, place, list->viewport()->mapToGlobal(place), Qt::NoButton, {},
+                         {});
+        QCoreApplication::sendEvent(list->viewport(), &move);
+    }
+    PresetList* list() { return m_window.findChild<PresetList*>(); }
+    StillClock& clock() { return *m_clock; }
+
+    void shoot(const char* name, int settleMilliseconds = 400)
+    {
+        settle(settleMilliseconds);
+        QPixmap picture = m_window.grab();
+        for (QDialog* dialog : m_window.findChildren<QDialog*>()) {
+            if (!dialog->isVisible())
+                continue;
+            QPainter painter(&picture);
+            painter.fillRect(m_window.rect(), QColor(0, 0, 0, 60));
+            const QRect place(QPoint((m_window.width() - dialog->width()) / 2, 90), dialog->size());
+            QPainterPath frame = look::continuousRect(place, 10);
+            painter.setClipPath(frame);
+            painter.drawPixmap(place.topLeft(), dialog->grab());
+            painter.setClipping(false);
+            look::strokeInside(painter, place, 10, look::colours(dialog).separator, 1);
+        }
+        const QString file = m_folder.filePath(QLatin1String(name) + QStringLiteral(".png"));
+        picture.save(file);
+        std::printf("%s\n", qPrintable(file));
+    }
+
+    static Platform platformIn(const QString& file, const QByteArray& machine, StillClock* clock)
+    {
+        if (!machine.isEmpty()) {
+            QFile out(file);
+            if (out.open(QIODevice::WriteOnly))
+                out.write(machine);
+        }
+        return simulatedPlatform(file, std::unique_ptr<Clock>(clock));
+    }
+
+private:
+    QDir m_folder;
+    QTemporaryDir m_place;
+    StillClock* m_clock;
+    Platform m_platform;
+
+public:
+    std::shared_ptr<MainViewModel> vm;
+
+private:
+    QWidget m_window;
+};
+
+void shootAll(const QDir& folder, const QString& suffix, QSize size)
+{
+    const auto name = [&suffix](const char* state) { return (QLatin1String(state) + suffix).toUtf8(); };
+    Stage stage(folder, size);
+    stage.shoot(name("empty-list"));
+    stage.addProfiles();
+    stage.shoot(name("dhcp"));
+    stage.hover(1);
+    stage.shoot(name("hover"));
+
+    stage.vm->ipv4Mode = IPv4Mode::manual;
+    stage.vm->ipAddress = Text(QStringLiteral("10.20.0.9"));
+    stage.vm->subnetMask = Text(QStringLiteral("255.255.252.0"));
+    settle();
+    stage.find<IPAddressField>(QStringLiteral("Gateway"))->octet(1)->setFocus();
+    stage.shoot(name("manual"));
+    stage.vm->ipAddress = Text(QStringLiteral("300.1.1"));
+    stage.click("Apply");
+    waitFor([&] { return stage.vm->applyError.value().has_value(); });
+    stage.shoot(name("error"));
+    stage.vm->ipAddress = Text(QStringLiteral("10.20.0.9"));
+    stage.click("Apply");
+    stage.shoot(name("applying"));
+    while (stage.vm->isApplying.value()) {
+        stage.clock().wake();
+        settle(50);
+    }
+    stage.shoot(name("applied"));
+
+    auto* search = stage.find<QLineEdit>(QStringLiteral("Search profiles"));
+    search->setText(QStringLiteral("nowhere"));
+    Q_EMIT search->textEdited(search->text());
+    stage.shoot(name("no-match"));
+    stage.click("Clear search");
+    stage.click("Save Profile…");
+    stage.shoot(name("save-sheet"));
+    stage.click("Cancel");
+    stage.list()->setCurrentIndex(stage.list()->model()->index(1, 0));
+    QKeyEvent rename(QEvent::KeyPress, Qt::Key_F2, {});
+    QCoreApplication::sendEvent(stage.list(), &rename);
+    stage.shoot(name("rename-sheet"));
+    settle(50);
+    stage.click("Cancel");
+    QKeyEvent remove(QEvent::KeyPress, Qt::Key_Delete, {});
+    QCoreApplication::sendEvent(stage.list(), &remove);
+    stage.shoot(name("delete"));
+    stage.click("Cancel");
+    settle(50);
+    stage.click("Disable Adapter");
+    stage.shoot(name("disable"));
+    stage.click("Disable");
+    while (stage.vm->isApplying.value()) {
+        stage.clock().wake();
+        settle(50);
+    }
+    stage.shoot(name("disabled"));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    if (argc != 2) {
+        std::fputs("Usage: ardeo-screenshots FOLDER\n", stderr);
+        return 2;
+    }
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    folder.mkpath(QStringLiteral("."));
+    QFont font(QStringLiteral("Inter"));
+    font.setPixelSize(13);
+    QApplication::setFont(font);
+    QApplication::setStyle(new ArdeoStyle);
+
+    const qreal scale = qApp->devicePixelRatio();
+    const QString scaled = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);
+    for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+        const QString dark = scheme == ColorScheme::dark ? QStringLiteral("-dark") : QString();
+        QApplication::setPalette(look::palette(scheme));
+        shootAll(folder, dark + scaled, QSize(900, 680));
+        {
+            Stage small(folder, QSize(720, 560));
+            small.addProfiles();
+            small.vm->ipv4Mode = IPv4Mode::manual;
+            small.vm->dnsMode = DNSMode::manual;
+            small.shoot((QStringLiteral("small") + dark + scaled).toUtf8());
+        }
+        Stage nothing(folder, QSize(900, 680), R"({"computerName": "Empty", "services": []})");
+        nothing.shoot((QStringLiteral("nothing") + dark + scaled).toUtf8());
+    }
+    std::fflush(stdout);
+    std::_Exit(0);
+}
