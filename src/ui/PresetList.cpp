@@ -220,29 +220,37 @@ void PresetList::hover(const std::optional<QUuid>& id)
 {
     if (m_hoveredPreset == id)
         return;
-    if (m_hoveredPreset)
-        fade(*m_hoveredPreset, 0);
-    m_hoveredPreset = id;
+    const auto left = std::exchange(m_hoveredPreset, id);
+    if (left)
+        fade(*left, 0);
     if (id)
         fade(*id, 1);
 }
 
 void PresetList::fade(const QUuid& id, double target)
 {
+    const auto show = [this, id, target](double highlight) {
+        // A later change of mind has the say.
+        if ((target > 0) != (m_hoveredPreset == id))
+            return;
+        if (highlight > 0)
+            m_highlights[id] = highlight;
+        else
+            m_highlights.remove(id);
+        viewport()->update();
+    };
+    const int duration = look::duration(this, hoverMilliseconds);
+    if (duration == 0) {
+        show(target);
+        return;
+    }
     auto* animation = new QVariantAnimation(this);
     animation->setEasingCurve(QEasingCurve::InOutSine);
     animation->setStartValue(m_highlights.value(id));
     animation->setEndValue(target);
-    animation->setDuration(look::duration(this, hoverMilliseconds));
-    connect(animation, &QVariantAnimation::valueChanged, this, [this, id, target](const QVariant& value) {
-        // A later change of mind has the say.
-        if ((target > 0) != (m_hoveredPreset == id))
-            return;
-        m_highlights[id] = value.toDouble();
-        if (value.toDouble() <= 0)
-            m_highlights.remove(id);
-        viewport()->update();
-    });
+    animation->setDuration(duration);
+    connect(animation, &QVariantAnimation::valueChanged, this,
+            [show](const QVariant& value) { show(value.toDouble()); });
     animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 

@@ -1,3 +1,5 @@
+#include "platform/linux/DesktopAppearance.h"
+
 #include <QDBusConnection>
 #include <QDBusMetaType>
 #include <QElapsedTimer>
@@ -108,6 +110,9 @@ public Q_SLOTS:
         asked = true;
         return {{QStringLiteral("org.freedesktop.appearance"), {{QStringLiteral("reduced-motion"), 1U}}}};
     }
+
+Q_SIGNALS:
+    Q_SCRIPTABLE void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 };
 
 /// The real program on a real display beside a real NetworkManager, as somebody with assistive technology
@@ -206,7 +211,7 @@ private Q_SLOTS:
         QDBusConnection bus = QDBusConnection::sessionBus();
         QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
         QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), &m_portal,
-                                   QDBusConnection::ExportScriptableSlots));
+                                   QDBusConnection::ExportScriptableContents));
         m_program.setProcessChannelMode(QProcess::ForwardedChannels);
         m_program.start(qEnvironmentVariable("LAB_PROGRAM"), {QStringLiteral("--system=networkmanager")});
         QTRY_VERIFY_WITH_TIMEOUT(m_portal.asked, patience);
@@ -216,6 +221,18 @@ private Q_SLOTS:
     {
         m_program.terminate();
         QVERIFY(m_program.waitForFinished());
+    }
+
+    void theDesktopIsFollowed()
+    {
+        const ardeo::DesktopAppearance appearance;
+        QTRY_VERIFY(appearance.wantsReducedMotion());
+        QVERIFY(!appearance.isDark());
+        for (const uint scheme : {1U, 2U}) {
+            Q_EMIT m_portal.SettingChanged(QStringLiteral("org.freedesktop.appearance"),
+                                           QStringLiteral("color-scheme"), QDBusVariant(scheme));
+            QTRY_COMPARE(appearance.isDark(), std::optional(scheme == 1));
+        }
     }
 
     void theWholeRoad()
