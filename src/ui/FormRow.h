@@ -5,7 +5,7 @@
 namespace ardeo
 {
 
-/// A label of fixed width, followed by an editor whose accessible name it gives.
+/// A label of fixed width, followed by an editor.
 class FormRow final : public QWidget
 {
     Q_OBJECT

@@ -272,7 +272,7 @@ QWidget* LeftPanel::makeListArea()
                                          renameText = preset.name;
                                          presetToRename = preset;
                                      },
-                                 .remove = [this](const NetworkPreset& preset) { confirmDelete(preset); }});
+                                 .remove = [this](const NetworkPreset& preset) { presetToDelete = preset; }});
     layers->addWidget(list);
     auto* nothing = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::tertiary);
     nothing->setAlignment(Qt::AlignCenter);
@@ -359,6 +359,21 @@ void LeftPanel::followSheets()
                                     },
                                     [this] { presetToRename = std::nullopt; }, window()));
         });
+    bind(
+        this, [this] { return presetToDelete.value(); },
+        [this](const std::optional<NetworkPreset>& preset) {
+            if (!preset)
+                return;
+            auto* confirmation =
+                new ConfirmationDialog(QStringLiteral("Delete Preset"), QString(),
+                                       QStringLiteral("Delete \"%1\"").arg(preset->name), window());
+            connect(confirmation, &QDialog::finished, this, [this, id = preset->id](int result) {
+                presetToDelete = std::nullopt;
+                if (result == QDialog::Accepted)
+                    vm.presetStore.remove(id);
+            });
+            confirmation->show();
+        });
 }
 
 void LeftPanel::showSheet(ProfileNameSheet* sheet)
@@ -371,14 +386,6 @@ void LeftPanel::showSheet(ProfileNameSheet* sheet)
     m_sheet = sheet;
     if (sheet)
         sheet->show();
-}
-
-void LeftPanel::confirmDelete(const NetworkPreset& preset)
-{
-    auto* confirmation = new ConfirmationDialog(QStringLiteral("Delete Preset"), QString(),
-                                                QStringLiteral("Delete \"%1\"").arg(preset.name), window());
-    connect(confirmation, &QDialog::accepted, this, [this, id = preset.id] { vm.presetStore.remove(id); });
-    confirmation->show();
 }
 
 } // namespace ardeo

@@ -32,7 +32,6 @@ private:
     QWidget* makeBottomBar();
     void followSheets();
     void showSheet(ProfileNameSheet* sheet);
-    void confirmDelete(const NetworkPreset& preset);
 
     /// Told whenever the list of profiles changes, so that what reads the list can be bound to it.
     bool hasPresets();
@@ -41,6 +40,7 @@ private:
     Observed<Text> presetFilter;
     Observed<bool> showSaveSheet{false};
     Observed<Text> newPresetName;
+    Observed<std::optional<NetworkPreset>> presetToDelete;
     Observed<std::optional<NetworkPreset>> presetToRename;
     Observed<Text> renameText;
     QProperty<int> m_presetChanges{0};

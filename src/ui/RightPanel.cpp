@@ -13,6 +13,7 @@
 #include "ui/TextLabel.h"
 #include "ui/UnfoldingSection.h"
 
+#include <QBoxLayout>
 #include <QButtonGroup>
 #include <QGraphicsOpacityEffect>
 #include <QPainter>

@@ -3,14 +3,8 @@
 #include "model/MainViewModel.h"
 #include "ui/NeuralNetworkBackground.h"
 
-#include <QBoxLayout>
-
 namespace ardeo
 {
-
-class Card;
-class ConfirmationDialog;
-class PushButton;
 
 /// The form with the settings to apply, the live state of the selected service, and the buttons that act on
 /// it.

@@ -82,7 +82,6 @@ public:
     }
     ~Stage()
     {
-        std::weak_ptr<MainViewModel> alive = vm;
         m_window.close();
         vm->isApplying = false;
     }
