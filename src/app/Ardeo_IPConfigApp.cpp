@@ -1,5 +1,13 @@
 #include "app/Ardeo_IPConfigApp.h"
 
+#include "app/MainMenu.h"
+#include "app/WindowHider.h"
+#include "ui/ContentView.h"
+#include "ui/HelpView.h"
+#include "ui/ShortcutsView.h"
+
+#include <QApplication>
+#include <QMessageBox>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -10,64 +18,94 @@ namespace
 {
 
 constexpr QSize defaultSize(900, 680);
-constexpr QSize minimumSize(720, 560);
+constexpr QSize helpSize(620, 640);
+constexpr QSize shortcutsSize(520, 540);
+constexpr int smallestHeight = 200;
+constexpr int aboutIconSize = 64;
 
-} // namespace
-
-void setUpMainWindow(QWidget& window, ContentView* content)
+/// Fills the window with the content, and has Ctrl+W ask it to close.
+QVBoxLayout* fillWindow(QWidget& window, QWidget* content)
 {
-    window.setWindowTitle(QStringLiteral("Ardeo IP Config"));
     auto* layout = new QVBoxLayout(&window);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);
-    window.setMinimumSize(minimumSize);
-    window.resize(defaultSize);
+    QObject::connect(new QShortcut(Qt::CTRL | Qt::Key_W, &window), &QShortcut::activated, &window,
+                     &QWidget::close);
+    return layout;
 }
+
+/// A window beside the main one; its width is its content's.
+QWidget* makeWindow(const QString& title, QSize size, QWidget* content)
+{
+    auto* window = new QWidget;
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(title);
+    fillWindow(*window, content);
+    window->setFixedWidth(size.width());
+    window->setMinimumHeight(smallestHeight);
+    window->resize(size);
+    return window;
+}
+
+} // namespace
 
 Ardeo_IPConfigApp::Ardeo_IPConfigApp(Platform& platform)
-    : m_paletteScheme(QApplication::palette().color(QPalette::Window).lightness() < 128 ? ColorScheme::dark
-                                                                                        : ColorScheme::light)
-    , vm(MainViewModel::create(platform))
+    : vm(MainViewModel::create(platform))
+    , m_platform(platform)
 {
-    QApplication::setStyle(new ArdeoStyle);
-    QObject::connect(&m_appearance, &DesktopAppearance::changed, &m_mainWindow,
-                     [this] { followAppearance(); });
-    followAppearance();
-    setUpMainWindow(m_mainWindow, new ContentView(*vm, *platform.clock));
-    addShortcuts();
+    setUpMainWindow();
 }
 
-void Ardeo_IPConfigApp::addShortcuts()
+Ardeo_IPConfigApp::~Ardeo_IPConfigApp()
 {
-    // They work in every state of the window, also where its buttons are not shown.
-    const auto add = [this](const QKeyCombination& keys, auto action) {
-        QObject::connect(new QShortcut(keys, &m_mainWindow), &QShortcut::activated, &m_mainWindow, action);
-    };
-    add(Qt::CTRL | Qt::Key_R, [this] { vm->refreshAdapters(); });
-    const auto apply = [this] {
-        if (!vm->isApplying.value() && !vm->isLoading.value() && vm->selectedAdapter.value())
-            vm->applyConfiguration();
-    };
-    add(Qt::CTRL | Qt::Key_Return, apply);
-    add(Qt::CTRL | Qt::Key_Enter, apply);
+    for (const QPointer<QWidget>& window : m_windows)
+        delete window.data();
 }
 
-void Ardeo_IPConfigApp::followAppearance()
+void Ardeo_IPConfigApp::setUpMainWindow()
 {
-    auto* style = static_cast<ArdeoStyle*>(QApplication::style());
-    style->setReducedMotion(m_appearance.wantsReducedMotion());
-    const bool dark = m_appearance.isDark().value_or(m_paletteScheme == ColorScheme::dark);
-    QApplication::setPalette(look::palette(dark ? ColorScheme::dark : ColorScheme::light));
-    QEvent restyled(QEvent::StyleChange);
-    for (QWidget* widget : m_mainWindow.findChildren<QWidget*>())
-        QApplication::sendEvent(widget, &restyled);
+    auto* content =
+        new ContentView(*vm, *m_platform.clock, notifications, [this](const QString& id) { openWindow(id); });
+    m_mainWindow.setWindowTitle(QStringLiteral("Ardeo IP Config"));
+    QVBoxLayout* layout = fillWindow(m_mainWindow, content);
+    layout->setMenuBar(makeMainMenu({.vm = *vm,
+                                     .appDelegate = appDelegate,
+                                     .notifications = notifications,
+                                     .workspace = *m_platform.workspace,
+                                     .showAboutPanel = [this] { showAboutPanel(); }}));
+    WindowHider::makeView(appDelegate)->setParent(&m_mainWindow);
+    m_mainWindow.resize(defaultSize);
 }
 
-void Ardeo_IPConfigApp::showMainWindow()
+void Ardeo_IPConfigApp::openWindow(const QString& id)
 {
-    m_mainWindow.show();
-    m_mainWindow.raise();
-    m_mainWindow.activateWindow();
+    QPointer<QWidget>& window = m_windows[id];
+    if (!window && id == QStringLiteral("help")) {
+        window =
+            makeWindow(QStringLiteral("Ardeo IP Config Help"), helpSize, new HelpView(*m_platform.clock));
+    } else if (!window && id == QStringLiteral("shortcuts")) {
+        window = makeWindow(QStringLiteral("Keyboard Shortcuts"), shortcutsSize,
+                            new ShortcutsView(shortcutSections(), *m_platform.clock));
+    }
+    if (window)
+        bringToFront(*window);
+}
+
+void Ardeo_IPConfigApp::showAboutPanel()
+{
+    if (!m_aboutPanel) {
+        auto* panel = new QMessageBox(&m_mainWindow);
+        panel->setAttribute(Qt::WA_DeleteOnClose);
+        panel->setModal(false);
+        panel->setWindowTitle(QStringLiteral("About Ardeo IP Config"));
+        panel->setIconPixmap(QApplication::windowIcon().pixmap(QSize(aboutIconSize, aboutIconSize),
+                                                               m_mainWindow.devicePixelRatioF()));
+        panel->setText(QStringLiteral("Ardeo IP Config"));
+        panel->setInformativeText(QStringLiteral("Version %1\nWorks on: %2")
+                                      .arg(QApplication::applicationVersion(), m_platform.description));
+        m_aboutPanel = panel;
+    }
+    bringToFront(*m_aboutPanel);
 }
 
 } // namespace ardeo

@@ -1,36 +1,38 @@
 #pragma once
 
+#include "app/AppDelegate.h"
 #include "model/MainViewModel.h"
-#include "platform/linux/DesktopAppearance.h"
-#include "ui/ContentView.h"
-#include "ui/Style.h"
-
-#include <QApplication>
+#include "platform/NotificationCenter.h"
 
 namespace ardeo
 {
 
-/// The application: the one model of the process, and its main window. Made after the QApplication; the
-/// platform outlives it.
+/// The application: the one model of the process, the main window, and the two windows beside it. Made after
+/// the QApplication; the platform outlives it.
 class Ardeo_IPConfigApp final
 {
 public:
     explicit Ardeo_IPConfigApp(Platform& platform);
+    ~Ardeo_IPConfigApp();
+    Ardeo_IPConfigApp(const Ardeo_IPConfigApp&) = delete;
+    Ardeo_IPConfigApp& operator=(const Ardeo_IPConfigApp&) = delete;
 
-    void showMainWindow();
+    AppDelegate appDelegate;
+    std::shared_ptr<MainViewModel> vm;
+    NotificationCenter notifications;
+
+    /// Opens the window with that identifier ("help" or "shortcuts"), or brings it to the front.
+    void openWindow(const QString& id);
 
 private:
-    void followAppearance();
-    void addShortcuts();
+    void setUpMainWindow();
+    void showAboutPanel();
 
-    /// The scheme where the desktop tells nothing about it.
-    ColorScheme m_paletteScheme;
-    DesktopAppearance m_appearance;
-    std::shared_ptr<MainViewModel> vm;
+    Platform& m_platform;
     QWidget m_mainWindow;
+    QPointer<QWidget> m_aboutPanel;
+    /// The other windows by their identifiers; ours to delete, unless the user has closed them.
+    QHash<QString, QPointer<QWidget>> m_windows;
 };
-
-/// The main window around the content: its title and its sizes.
-void setUpMainWindow(QWidget& window, ContentView* content);
 
 } // namespace ardeo

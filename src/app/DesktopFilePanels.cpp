@@ -1,6 +1,9 @@
 #include "app/DesktopFilePanels.h"
 
+#include "platform/linux/FileChooserPortal.h"
+
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QStandardPaths>
@@ -11,6 +14,38 @@ namespace ardeo
 namespace
 {
 
+/// Shows nothing itself: it keeps the program's windows from being used while the portal's panel is open,
+/// and waits for the answer.
+class PortalPanel final : public QDialog
+{
+public:
+    explicit PortalPanel(QWidget* parent) : QDialog(parent)
+    {
+        setAttribute(Qt::WA_DontShowOnScreen);
+        connect(&portal, &FileChooserPortal::chosen, this, [this](const std::optional<QString>& path) {
+            m_chosen = path;
+            accept();
+        });
+        connect(&portal, &FileChooserPortal::unavailable, this, [this] { reject(); });
+    }
+
+    FileChooserPortal portal;
+
+    /// False where no portal showed a panel; else what was chosen is in chosen.
+    bool run() { return exec() == Accepted; }
+    const std::optional<QString>& chosen() const { return m_chosen; }
+    /// The window that the panel belongs to, as portals name it; only X11's can be named without more ado.
+    QString window() const
+    {
+        const bool isX11 = QGuiApplication::platformName() == QStringLiteral("xcb");
+        return isX11 && parentWidget() ? QStringLiteral("x11:%1").arg(parentWidget()->winId(), 0, 16)
+                                       : QString();
+    }
+
+private:
+    std::optional<QString> m_chosen;
+};
+
 std::optional<QString> asPlace(const QString& path)
 {
     return path.isEmpty() ? std::nullopt : std::optional(path);
@@ -20,13 +55,21 @@ std::optional<QString> asPlace(const QString& path)
 
 std::optional<QString> DesktopFilePanels::askWhereToSave(const QString& proposedName, const QString& message)
 {
-    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    PortalPanel panel(QApplication::activeWindow());
+    panel.portal.askWhereToSave(panel.window(), message, folder, proposedName);
+    if (panel.run())
+        return panel.chosen();
     return asPlace(QFileDialog::getSaveFileName(QApplication::activeWindow(), message,
-                                                documents.filePath(proposedName)));
+                                                QDir(folder).filePath(proposedName)));
 }
 
 std::optional<QString> DesktopFilePanels::askWhatToOpen(const QString& message)
 {
+    PortalPanel panel(QApplication::activeWindow());
+    panel.portal.askWhatToOpen(panel.window(), message);
+    if (panel.run())
+        return panel.chosen();
     return asPlace(QFileDialog::getOpenFileName(QApplication::activeWindow(), message));
 }
 

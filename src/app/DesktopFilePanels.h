@@ -5,7 +5,7 @@
 namespace ardeo
 {
 
-/// The desktop's own file panels.
+/// The desktop's own file panels: its portal's, or else what the toolkit shows.
 class DesktopFilePanels final : public FilePanels
 {
 public:

@@ -1,8 +1,14 @@
+#include "app/Appearance.h"
 #include "app/Ardeo_IPConfigApp.h"
 #include "app/DesktopFilePanels.h"
+#include "app/MenuBarExtra.h"
+#include "platform/linux/DesktopApplication.h"
+#include "platform/linux/DesktopWorkspace.h"
 #include "platform/linux/SystemChoice.h"
 
+#include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 
 #include <cstdio>
 #include <cstdlib>
@@ -37,13 +43,35 @@ int main(int argc, char** argv)
     }
     const auto file = parser.isSet(state) ? std::optional(parser.value(state)) : std::nullopt;
     Platform platform = platformFor(*choice, file, QApplication::applicationFilePath());
-    platform.filePanels = std::make_unique<DesktopFilePanels>();
     if (parser.isSet(version)) {
         std::printf("ardeo-ip-config %s on %s\n", ARDEO_VERSION, platform.description.toUtf8().constData());
         return 0;
     }
+
+    DesktopApplication desktopApplication;
+    switch (desktopApplication.claim()) {
+    case DesktopApplication::Claim::granted:
+        break;
+    case DesktopApplication::Claim::handedOver:
+        return 0;
+    case DesktopApplication::Claim::unanswered:
+        std::fputs("Ardeo IP Config is running already, but does not answer.\n", stderr);
+        return 1;
+    }
+    platform.filePanels = std::make_unique<DesktopFilePanels>();
+    platform.workspace = std::make_unique<DesktopWorkspace>();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/org.ardeo.IPConfig.svg")));
+
+    const Appearance appearance;
     Ardeo_IPConfigApp app(platform);
-    app.showMainWindow();
+    QObject::connect(&desktopApplication, &DesktopApplication::activated, &desktopApplication,
+                     [&app] { app.appDelegate.showMainWindow(); });
+    app.appDelegate.applicationDidFinishLaunching();
+
+    MenuBarMenuView menu(*app.vm, app.appDelegate, app.notifications, platform);
+    const MenuBarExtra menuBarExtra(menu, app.appDelegate, *platform.clock,
+                                    QStringLiteral("Ardeo IP Config on %1").arg(platform.description));
+    app.appDelegate.hasMenuBarExtra = [&menuBarExtra] { return menuBarExtra.isPresent(); };
     const int status = QApplication::exec();
     // Every change has been saved when it was made, and an operation that still runs must not hold up the
     // end.

@@ -295,4 +295,13 @@ void MainViewModel::importPresets()
         applyError = Text(QStringLiteral("Could not read profiles file."));
 }
 
+void MainViewModel::toggleLoginItem()
+{
+    LoginItem& item = *m_platform.loginItem;
+    const auto failure = isLoginItem.value() ? item.unregisterItem() : item.registerItem();
+    if (failure)
+        applyError = Text(QStringLiteral("Start at login: ") + *failure);
+    isLoginItem = item.status() == LoginItem::Status::enabled;
+}
+
 } // namespace ardeo

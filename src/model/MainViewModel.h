@@ -86,6 +86,8 @@ public:
     bool exportPresets();
     /// Merges the profiles of a file that the user chooses into the list, by their ids.
     void importPresets();
+    /// Has the program start when the user logs in, or no longer.
+    void toggleLoginItem();
 
 private:
     Platform& m_platform;

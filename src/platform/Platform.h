@@ -6,6 +6,7 @@
 #include "platform/LoginItem.h"
 #include "platform/SystemConfiguration.h"
 #include "platform/UserDefaults.h"
+#include "platform/Workspace.h"
 
 #include <functional>
 
@@ -22,6 +23,8 @@ struct Platform {
     std::unique_ptr<Clock> clock;
     /// Null where there is no desktop to ask on.
     std::unique_ptr<FilePanels> filePanels;
+    /// Null where there is no desktop to open anything on.
+    std::unique_ptr<Workspace> workspace;
     /// Says which system this is, for people.
     QString description;
     /// Why the system could not be reached the last time it was asked, as a sentence; none when it answered.

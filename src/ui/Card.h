@@ -1,14 +1,12 @@
 #pragma once
 
-#include "ui/NeuralNetworkBackground.h"
-
-#include <QVBoxLayout>
+#include "ui/MaterialPanel.h"
 
 namespace ardeo
 {
 
 /// A titled, rounded container that lets the ground below it shine through.
-class Card final : public QWidget
+class Card final : public MaterialPanel
 {
     Q_OBJECT
 
@@ -16,15 +14,6 @@ public:
     /// trailingView stands at the right end of the header and may be null; content fills the card.
     Card(const QString& title, const QString& systemImage, QWidget* trailingView, QWidget* content,
          QWidget* parent = nullptr);
-
-    /// What shines through; null for none.
-    void setBackground(NeuralNetworkBackground* background) { m_background = background; }
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    NeuralNetworkBackground* m_background = nullptr;
 };
 
 } // namespace ardeo

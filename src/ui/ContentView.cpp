@@ -5,9 +5,10 @@
 #include "ui/Style.h"
 
 #include <QPainter>
-#include <QShowEvent>
 #include <QSplitter>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace ardeo
 {
@@ -44,7 +45,10 @@ protected:
 
 } // namespace
 
-ContentView::ContentView(MainViewModel& model, Clock& clock, QWidget* parent) : QWidget(parent), vm(model)
+ContentView::ContentView(MainViewModel& model, Clock& clock, NotificationCenter& notifications,
+                         OpenWindow openWindow, QWidget* parent)
+    : QWidget(parent)
+    , vm(model)
 {
     auto* columns = new Splitter(Qt::Horizontal);
     auto* sidebar = new LeftPanel(vm);
@@ -60,12 +64,18 @@ ContentView::ContentView(MainViewModel& model, Clock& clock, QWidget* parent) : 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(columns);
+    connect(&notifications, &NotificationCenter::posted, this,
+            [openWindow = std::move(openWindow)](const QString& name) {
+                if (name == openHelpNotification)
+                    openWindow(QStringLiteral("help"));
+                else if (name == openShortcutsNotification)
+                    openWindow(QStringLiteral("shortcuts"));
+            });
 }
 
-void ContentView::showEvent(QShowEvent* event)
+void ContentView::showEvent(QShowEvent*)
 {
-    // Coming back from being minimised is no new appearance.
-    if (event->spontaneous())
+    if (std::exchange(m_hasAppeared, true))
         return;
     setFocus(); // no control has it before the user has chosen one
     vm.loadAdapters();

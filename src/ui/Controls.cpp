@@ -174,7 +174,9 @@ SymbolView::SymbolView(const QString& symbol, int size, std::function<QColor(con
 void SymbolView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    drawSymbol(painter, rect(), m_symbol, m_colour(look::colours(this)));
+    const int side = std::min(width(), height());
+    drawSymbol(painter, QRectF((width() - side) / 2.0, (height() - side) / 2.0, side, side), m_symbol,
+               m_colour(look::colours(this)));
 }
 
 } // namespace ardeo

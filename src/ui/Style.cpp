@@ -248,6 +248,44 @@ int ArdeoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     }
 }
 
+QSize ArdeoStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                   const QWidget* widget) const
+{
+    const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (type != CT_MenuItem || !item)
+        return usual;
+    const bool isSeparator = item->menuItemType == QStyleOptionMenuItem::Separator;
+    return isSeparator ? QSize(usual.width(), 9) : usual + QSize(8, 6);
+}
+
+void ArdeoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    // Menus are a step lighter than the window, with an edge that shows on dark grounds too.
+    if (widget && (element == PE_PanelMenu || element == PE_FrameMenu)) {
+        const Colours& colours = look::colours(widget);
+        if (element == PE_PanelMenu)
+            painter->fillRect(option->rect, colours.control);
+        painter->setPen(colours.separator);
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        return;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void ArdeoStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const
+{
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (widget && item && element == CE_MenuItem && item->menuItemType == QStyleOptionMenuItem::Separator) {
+        const QRect line(item->rect.left() + 8, item->rect.center().y(), item->rect.width() - 16, 1);
+        painter->fillRect(line, look::colours(widget).separator);
+        return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
 void ArdeoStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                     QPainter* painter, const QWidget* widget) const
 {

@@ -10,7 +10,7 @@ namespace ardeo
 {
 
 /// A text in one of the styles, in a colour that follows the scheme.
-class TextLabel final : public QLabel
+class TextLabel : public QLabel
 {
     Q_OBJECT
 

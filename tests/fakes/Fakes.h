@@ -89,16 +89,20 @@ class FakeLoginItem final : public LoginItem
 {
 public:
     Status current = Status::notRegistered;
+    /// What a call leads to.
+    std::optional<QString> failure;
+    Status next = Status::enabled;
+    QStringList calls;
     Status status() const override { return current; }
-    std::optional<QString> registerItem() override
+    std::optional<QString> registerItem() override { return take(QStringLiteral("register")); }
+    std::optional<QString> unregisterItem() override { return take(QStringLiteral("unregister")); }
+
+private:
+    std::optional<QString> take(const QString& call)
     {
-        current = Status::enabled;
-        return std::nullopt;
-    }
-    std::optional<QString> unregisterItem() override
-    {
-        current = Status::notRegistered;
-        return std::nullopt;
+        calls.append(call);
+        current = next;
+        return failure;
     }
 };
 
@@ -111,6 +115,18 @@ public:
     std::optional<QString> askWhatToOpen(const QString&) override { return place; }
 };
 
+/// Remembers what it was asked to open.
+class FakeWorkspace final : public Workspace
+{
+public:
+    QList<SystemTool> opened;
+    bool open(SystemTool tool) override
+    {
+        opened.append(tool);
+        return true;
+    }
+};
+
 /// A platform of fakes, and each of them.
 struct FakePlatform {
     FakeSystemConfiguration* system = new FakeSystemConfiguration;
@@ -119,12 +135,14 @@ struct FakePlatform {
     FakeUserDefaults* userDefaults = new FakeUserDefaults;
     FakeClock* clock = new FakeClock;
     FakeFilePanels* filePanels = new FakeFilePanels;
+    FakeWorkspace* workspace = new FakeWorkspace;
     Platform platform{std::unique_ptr<SystemConfiguration>(system),
                       std::unique_ptr<Authorization>(authorization),
                       std::unique_ptr<LoginItem>(loginItem),
                       std::unique_ptr<UserDefaults>(userDefaults),
                       std::unique_ptr<Clock>(clock),
                       std::unique_ptr<FilePanels>(filePanels),
+                      std::unique_ptr<Workspace>(workspace),
                       QStringLiteral("fakes")};
 };
 

@@ -3,6 +3,7 @@
 
 #include <QTemporaryDir>
 #include <QTest>
+#include <sys/stat.h>
 
 using namespace ardeo;
 using namespace std::chrono_literals;
@@ -311,15 +312,76 @@ private Q_SLOTS:
         model.importPresets();
         QCOMPARE(model.presetStore.presets(), (QList{presets.last(), presets.first()}));
         QVERIFY(!model.applyError.value());
-        for (const char* bad : {"", "{}", "[{}]"}) {
+        const QByteArray good = *encodePresets({presets.first()});
+        const auto with = [&good](const char* before, const char* after) {
+            QByteArray changed = good;
+            changed.replace(before, after);
+            return changed;
+        };
+        const QByteArray lowerCaseId = presets.first().id.toString(QUuid::WithoutBraces).toLower().toLatin1();
+        QElapsedTimer time;
+        time.start();
+        for (const QByteArray& bad :
+             {QByteArray(), QByteArray("{}"), QByteArray("[{}]"), with("\"router\":\"\",", ""),
+              with("\"router\":\"\"", "\"router\":null"), with("\"router\":\"\"", "\"router\":1"),
+              with("\"DHCP\"", "\"dhcp\""), QByteArray(100'000'000, '\0')}) {
             model.applyError = std::nullopt;
             file(bad);
             model.importPresets();
             QCOMPARE(model.applyError.value(), Text(QStringLiteral("Could not read profiles file.")));
+            QCOMPARE(model.presetStore.presets().size(), 2);
         }
-        QCOMPARE(model.presetStore.presets().size(), 2);
+        const QString pipe = folder.filePath(QStringLiteral("pipe"));
+        QCOMPARE(mkfifo(pipe.toUtf8().constData(), 0600), 0);
+        for (const QString& place : {folder.path(), folder.filePath(QStringLiteral("absent")), pipe}) {
+            model.applyError = std::nullopt;
+            fixture.fakes.filePanels->place = place;
+            model.importPresets();
+            QCOMPARE(model.applyError.value(), Text(QStringLiteral("Could not read profiles file.")));
+        }
+        QVERIFY(time.elapsed() < 5'000);
+        model.applyError = std::nullopt;
+        for (const QByteArray& fine :
+             {good, QByteArray("\xEF\xBB\xBF") + good, with("[{", "[{\"extra\":[1],"),
+              with(lowerCaseId.toUpper(), lowerCaseId)}) {
+            model.presetStore.setPresets({});
+            file(fine);
+            model.importPresets();
+            QCOMPARE(model.presetStore.presets(), QList{presets.first()});
+        }
+        QVERIFY(!model.applyError.value());
         fixture.fakes.filePanels->place = folder.path();
         QVERIFY(!model.exportPresets());
+    }
+
+    void startingAtLoginIsWhatTheSystemSays()
+    {
+        Fixture fixture;
+        FakeLoginItem& item = *fixture.fakes.loginItem;
+        const struct {
+            std::optional<QString> failure;
+            LoginItem::Status afterwards;
+            bool shown;
+        } toggles[]{
+            {std::nullopt, LoginItem::Status::enabled, true},
+            {QStringLiteral("no"), LoginItem::Status::enabled, true},
+            {std::nullopt, LoginItem::Status::notRegistered, false},
+            {std::nullopt, LoginItem::Status::requiresApproval, false},
+            {QStringLiteral("no"), LoginItem::Status::notFound, false},
+        };
+        for (const auto& toggle : toggles) {
+            fixture.model->applyError = std::nullopt;
+            item.failure = toggle.failure;
+            item.next = toggle.afterwards;
+            fixture.model->toggleLoginItem();
+            QCOMPARE(fixture.model->isLoginItem.value(), toggle.shown);
+            QCOMPARE(fixture.model->applyError.value(),
+                     toggle.failure ? std::optional(Text(QStringLiteral("Start at login: no")))
+                                    : std::nullopt);
+        }
+        QCOMPARE(item.calls, (QStringList{QStringLiteral("register"), QStringLiteral("unregister"),
+                                          QStringLiteral("unregister"), QStringLiteral("register"),
+                                          QStringLiteral("register")}));
     }
 
     void stalledSystemLeavesTheMainThreadFree()

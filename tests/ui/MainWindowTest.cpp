@@ -1,19 +1,26 @@
 #include "app/Ardeo_IPConfigApp.h"
+#include "app/MenuBarMenuView.h"
 #include "fakes/Fakes.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "ui/Card.h"
 #include "ui/ConfirmationDialog.h"
+#include "ui/ContentView.h"
 #include "ui/Controls.h"
 #include "ui/FormRow.h"
+#include "ui/HelpView.h"
 #include "ui/IPAddressField.h"
 #include "ui/LeftPanel.h"
 #include "ui/PresetList.h"
 #include "ui/PushButton.h"
 #include "ui/RightPanel.h"
 #include "ui/SavePresetSheet.h"
+#include "ui/ShortcutsView.h"
 #include "ui/TextLabel.h"
 
 #include <QAccessible>
+#include <QApplication>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QSplitter>
 #include <QTemporaryDir>
 #include <QTest>
@@ -35,20 +42,26 @@ struct Window {
     FakeClock* clock = new FakeClock;
     Platform platform =
         simulatedPlatform(folder.filePath(latin("machine.json")), std::unique_ptr<Clock>(clock));
-    std::shared_ptr<MainViewModel> model = MainViewModel::create(platform);
-    std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
+    FakeWorkspace* workspace = new FakeWorkspace;
+    std::unique_ptr<Ardeo_IPConfigApp> app;
+    std::shared_ptr<MainViewModel> model;
+    QPointer<QWidget> window;
 
     Window()
     {
-        setUpMainWindow(*window, new ContentView(*model, *platform.clock));
-        window->show();
+        platform.workspace.reset(workspace);
+        app = std::make_unique<Ardeo_IPConfigApp>(platform);
+        model = app->vm;
+        window = app->appDelegate.mainWindow;
+        app->appDelegate.hasMenuBarExtra = [] { return true; };
+        app->appDelegate.applicationDidFinishLaunching();
         settle();
     }
     ~Window()
     {
-        window.reset();
         const std::weak_ptr<MainViewModel> alive = model;
         model.reset();
+        app.reset();
         while (!alive.expired()) {
             clock->advance(10s);
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
@@ -475,7 +488,7 @@ private Q_SLOTS:
     {
         Window w;
         w.model->applyConfiguration();
-        w.window.reset();
+        w.app->appDelegate.hideMainWindow();
         w.finish();
         QVERIFY(w.model->applySuccess.value());
         Window other;
@@ -484,6 +497,129 @@ private Q_SLOTS:
         other.settle();
         QVERIFY(other.shows("No Network Services"));
         QVERIFY(other.model->selectedAdapter.value());
+    }
+
+    void menusShowWhatCanBeDone()
+    {
+        Window w;
+        const AdapterInfo on = *w.model->selectedAdapter.value();
+        AdapterInfo off = on;
+        off.isEnabled = false;
+        NetworkAdapterInfo manual;
+        manual.ipv4Mode = IPv4Mode::manual;
+        const struct {
+            std::optional<AdapterInfo> selected;
+            NetworkAdapterInfo live;
+            bool isApplying;
+            bool isLoading;
+            QStringList disabled;
+        } states[]{
+            {on, {}, false, false, {latin("Enable Adapter")}},
+            {off, manual, false, false, {latin("Renew DHCP"), latin("Disable Adapter")}},
+            {on, {}, true, false, {latin("Apply"), latin("Enable Adapter")}},
+            {on, manual, false, true, {latin("Apply"), latin("Renew DHCP"), latin("Enable Adapter")}},
+            {std::nullopt,
+             {},
+             false,
+             false,
+             {latin("Apply"), latin("Renew DHCP"), latin("Enable Adapter"), latin("Disable Adapter")}},
+        };
+        for (const auto& state : states) {
+            w.model->selectedAdapter = state.selected;
+            w.model->currentConfig = state.live;
+            w.model->ipv4Mode = IPv4Mode::dhcp; // the form has no say
+            w.model->isApplying = state.isApplying;
+            w.model->isLoading = state.isLoading;
+            QStringList disabled;
+            for (const QMenu* menu : w.window->findChild<QMenuBar*>()->findChildren<QMenu*>()) {
+                for (const QAction* item : menu->actions()) {
+                    if (!item->isSeparator() && !item->isEnabled())
+                        disabled.append(item->text());
+                }
+            }
+            QCOMPARE(disabled, state.disabled);
+        }
+        w.model->isApplying = false;
+    }
+
+    void hiddenWindowKeepsWhatItHas()
+    {
+        Window w;
+        bool tray = true;
+        w.app->appDelegate.hasMenuBarExtra = [&tray] { return tray; };
+        w.model->searchDomains = Text(latin("unapplied"));
+        w.window->close();
+        QVERIFY(!w.window->isVisible());
+        MenuBarMenuView menu(*w.model, w.app->appDelegate, w.app->notifications, w.platform);
+        const auto item = [&menu](const char* text) {
+            const auto items = menu.actions();
+            return *std::ranges::find(items, latin(text), &QAction::text);
+        };
+        item("Keyboard Shortcuts…")->trigger();
+        QVERIFY(w.window->isVisible());
+        const auto windows = [](const char* title) {
+            return std::ranges::count_if(QApplication::topLevelWidgets(), [title](const QWidget* window) {
+                return window->isVisible() && window->windowTitle() == latin(title);
+            });
+        };
+        w.clock->advance(149ms);
+        QCoreApplication::processEvents();
+        QCOMPARE(windows("Keyboard Shortcuts"), 0);
+        w.clock->advance(1ms);
+        QTRY_COMPARE(windows("Keyboard Shortcuts"), 1);
+        for (int i = 0; i < 2; ++i)
+            w.app->notifications.post(openHelpNotification);
+        QCOMPARE(windows("Ardeo IP Config Help"), 1);
+        QVERIFY(!w.model->isLoading.value());
+        QCOMPARE(w.model->searchDomains.value(), Text(latin("unapplied")));
+
+        QCOMPARE(item("Ethernet")->isVisible() && item("10.20.1.42")->isVisible(), true);
+        w.model->selectedAdapter = std::nullopt;
+        const auto entries = menu.actions();
+        const auto first = std::ranges::find_if(entries, &QAction::isVisible);
+        QCOMPARE((*first)->text(), latin("Open Ardeo IP Config"));
+        item("Start at Login")->trigger();
+        QVERIFY(item("Remove from Login Items")->isEnabled());
+        item("Network Settings…")->trigger();
+        item("Activity Monitor…")->trigger();
+        QCOMPARE(w.workspace->opened, (QList{SystemTool::networkSettings, SystemTool::activityMonitor}));
+
+        tray = false;
+        for (int i = 0; i < 2; ++i) {
+            w.window->close();
+            QVERIFY(w.window->isVisible() && w.window->isMinimized());
+            QCOMPARE(windows("Ardeo IP Config"), 2 - i); // says why, the first time
+            for (QWidget* window : QApplication::topLevelWidgets()) {
+                if (qobject_cast<QMessageBox*>(window))
+                    window->close();
+            }
+            item("Open Ardeo IP Config")->trigger();
+            QVERIFY(!w.window->isMinimized());
+        }
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window != w.window)
+                window->close();
+        }
+    }
+
+    void helpIsNeverCutOff()
+    {
+        FakeClock clock;
+        HelpView help(clock);
+        ShortcutsView shortcuts(shortcutSections(), clock);
+        for (const auto& [page, width] : {std::pair<QWidget*, int>(&help, 620), {&shortcuts, 520}}) {
+            page->resize(width, 300);
+            page->show();
+            QCOMPARE(page->width(), width);
+            for (const QLabel* label : page->findChildren<QLabel*>()) {
+                const int needed =
+                    label->wordWrap() ? label->heightForWidth(label->width()) : label->fontMetrics().height();
+                QVERIFY2(label->height() >= needed &&
+                             (label->wordWrap() || label->width() >= label->sizeHint().width()),
+                         qPrintable(label->text()));
+            }
+        }
+        QCOMPARE(help.findChildren<QLabel*>().size(), 2 + 2 + 1 + 10 * 2 + 1 + 8 * 3);
     }
 
     void backgroundMovesOnlyWhereItIsSeen()

@@ -3,21 +3,25 @@
 // scales.
 
 #include "app/Ardeo_IPConfigApp.h"
-#include "platform/linux/BootTimeClock.h"
+#include "app/MenuBarMenuView.h"
+#include "platform/linux/DesktopWorkspace.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "ui/IPAddressField.h"
 #include "ui/PresetList.h"
 #include "ui/PushButton.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTemporaryDir>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 
@@ -73,16 +77,17 @@ public:
         : m_folder(folder)
         , m_clock(new StillClock)
         , m_platform(platformIn(m_place.filePath(QStringLiteral("machine.json")), machine, m_clock))
-        , vm(MainViewModel::create(m_platform))
+        , m_app(m_platform)
+        , vm(m_app.vm)
+        , m_window(*m_app.appDelegate.mainWindow)
     {
-        setUpMainWindow(m_window, new ContentView(*vm, *m_platform.clock));
         m_window.resize(size);
         m_window.show();
         waitFor([this] { return !vm->isLoading.value(); });
     }
     ~Stage()
     {
-        m_window.close();
+        m_window.hide();
         vm->isApplying = false;
     }
     Stage(const Stage&) = delete;
@@ -145,6 +150,43 @@ public:
             painter.setClipping(false);
             look::strokeInside(painter, place, 10, look::colours(dialog).separator, 1);
         }
+        save(picture, name);
+    }
+    /// The window with one menu of its menu bar open.
+    void shootMenu(int index, const char* name)
+    {
+        auto* bar = m_window.findChild<QMenuBar*>();
+        QAction* title = bar->actions().at(index);
+        bar->setActiveAction(title);
+        title->menu()->popup(bar->mapToGlobal(bar->actionGeometry(title).bottomLeft()));
+        settle();
+        QPixmap picture = m_window.grab();
+        QPainter(&picture).drawPixmap(m_window.mapFromGlobal(title->menu()->pos()), title->menu()->grab());
+        save(picture, name);
+        title->menu()->close();
+    }
+    void shootMenuBarMenu(const char* name)
+    {
+        MenuBarMenuView menu(*vm, m_app.appDelegate, m_app.notifications, m_platform);
+        menu.popup({});
+        settle();
+        save(menu.grab(), name);
+    }
+    /// The window with that identifier and title.
+    void shootWindow(const char* id, const char* title, const char* name)
+    {
+        m_app.openWindow(QLatin1String(id));
+        settle();
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->windowTitle() == QLatin1String(title)) {
+                save(window->grab(), name);
+                window->close();
+            }
+        }
+    }
+
+    void save(const QPixmap& picture, const char* name)
+    {
         const QString file = m_folder.filePath(QLatin1String(name) + QStringLiteral(".png"));
         picture.save(file);
         std::printf("%s\n", qPrintable(file));
@@ -157,7 +199,9 @@ public:
             if (out.open(QIODevice::WriteOnly))
                 out.write(machine);
         }
-        return simulatedPlatform(file, std::unique_ptr<Clock>(clock));
+        Platform platform = simulatedPlatform(file, std::unique_ptr<Clock>(clock));
+        platform.workspace = std::make_unique<DesktopWorkspace>();
+        return platform;
     }
 
 private:
@@ -165,12 +209,13 @@ private:
     QTemporaryDir m_place;
     StillClock* m_clock;
     Platform m_platform;
+    Ardeo_IPConfigApp m_app;
 
 public:
     std::shared_ptr<MainViewModel> vm;
 
 private:
-    QWidget m_window;
+    QWidget& m_window;
 };
 
 void shootAll(const QDir& folder, const QString& suffix, QSize size)
@@ -180,6 +225,12 @@ void shootAll(const QDir& folder, const QString& suffix, QSize size)
     stage.shoot(name("empty-list"));
     stage.addProfiles();
     stage.shoot(name("dhcp"));
+    const auto menus = std::to_array({"menu-application", "menu-file", "menu-tools", "menu-help"});
+    for (int i = 0; i < static_cast<int>(menus.size()); ++i)
+        stage.shootMenu(i, name(menus.at(static_cast<size_t>(i))));
+    stage.shootMenuBarMenu(name("menu-bar-menu"));
+    stage.shootWindow("help", "Ardeo IP Config Help", name("help"));
+    stage.shootWindow("shortcuts", "Keyboard Shortcuts", name("shortcuts"));
     stage.hover(1);
     stage.shoot(name("hover"));
 
@@ -246,6 +297,7 @@ int main(int argc, char** argv)
     font.setPixelSize(13);
     QApplication::setFont(font);
     QApplication::setStyle(new ArdeoStyle);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/org.ardeo.IPConfig.svg")));
 
     const qreal scale = qApp->devicePixelRatio();
     const QString scaled = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);

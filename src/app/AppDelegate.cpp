@@ -1,0 +1,62 @@
+#include "app/AppDelegate.h"
+
+#include "platform/linux/X11Desktop.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QWindow>
+
+namespace ardeo
+{
+
+void bringToFront(QWidget& window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    activateIgnoringOtherApps(*window.windowHandle());
+}
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    QApplication::setQuitOnLastWindowClosed(applicationShouldTerminateAfterLastWindowClosed());
+    if (mainWindow)
+        mainWindow->show();
+}
+
+void AppDelegate::showMainWindow()
+{
+    if (mainWindow)
+        bringToFront(*mainWindow);
+}
+
+void AppDelegate::hideMainWindow()
+{
+    if (!mainWindow)
+        return;
+    if (hasMenuBarExtra()) {
+        mainWindow->hide();
+        return;
+    }
+    mainWindow->showMinimized();
+    if (std::exchange(m_hasExplained, true))
+        return;
+    auto* why = new QMessageBox(
+        QMessageBox::Information, QStringLiteral("Ardeo IP Config"),
+        QStringLiteral("Ardeo IP Config is still running. This desktop shows no menu bar icons, so its "
+                       "window was minimised instead of hidden. Ctrl+Q ends the program."),
+        QMessageBox::Ok);
+    why->setAttribute(Qt::WA_DeleteOnClose);
+    why->setModal(false);
+    why->show();
+}
+
+void AppDelegate::hide()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowType() == Qt::Window)
+            window->showMinimized();
+    }
+}
+
+} // namespace ardeo

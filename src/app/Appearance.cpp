@@ -1,0 +1,31 @@
+#include "app/Appearance.h"
+
+#include "ui/Style.h"
+
+#include <QApplication>
+#include <QEvent>
+
+namespace ardeo
+{
+
+Appearance::Appearance()
+    : m_paletteScheme(QApplication::palette().color(QPalette::Window).lightness() < 128 ? ColorScheme::dark
+                                                                                        : ColorScheme::light)
+{
+    QApplication::setStyle(new ArdeoStyle);
+    QObject::connect(&m_desktop, &DesktopAppearance::changed, &m_desktop, [this] { follow(); });
+    follow();
+}
+
+void Appearance::follow()
+{
+    auto* style = static_cast<ArdeoStyle*>(QApplication::style());
+    style->setReducedMotion(m_desktop.wantsReducedMotion());
+    const bool dark = m_desktop.isDark().value_or(m_paletteScheme == ColorScheme::dark);
+    QApplication::setPalette(look::palette(dark ? ColorScheme::dark : ColorScheme::light));
+    QEvent restyled(QEvent::StyleChange);
+    for (QWidget* widget : QApplication::allWidgets())
+        QApplication::sendEvent(widget, &restyled);
+}
+
+} // namespace ardeo

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/linux/DesktopAppearance.h"
+#include "ui/NeuralNetworkFrame.h"
+
+namespace ardeo
+{
+
+/// Puts the whole program into its style, and keeps it in the desktop's colour scheme and to the user's wish
+/// for less motion. Made after the QApplication, before its windows.
+class Appearance final
+{
+public:
+    Appearance();
+
+private:
+    void follow();
+
+    /// The scheme where the desktop tells nothing about it.
+    ColorScheme m_paletteScheme;
+    DesktopAppearance m_desktop;
+};
+
+} // namespace ardeo
