@@ -97,14 +97,14 @@ public:
     }
 
 private:
-    void throwTrouble()
+    void throwTrouble() const
     {
         if (const auto trouble = m_platform.trouble())
             fail(*trouble);
     }
 
     /// For commands that do not ask the system for anything else.
-    void throwAbsence()
+    void throwAbsence() const
     {
         if (const auto trouble = m_platform.probe())
             fail(*trouble);

@@ -17,7 +17,7 @@ class LeftPanel final : public QWidget
     Q_OBJECT
 
 public:
-    explicit LeftPanel(MainViewModel& vm, QWidget* parent = nullptr);
+    explicit LeftPanel(MainViewModel& model, QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -25,7 +25,7 @@ protected:
 private:
     QWidget* makeAdapterSection();
     QWidget* makePicker();
-    QWidget* makeSummary(const AdapterInfo& adapter);
+    static QWidget* makeSummary(const AdapterInfo& adapter);
     QWidget* makeProfileSection();
     QWidget* makeSearchRow();
     QWidget* makeListArea();

@@ -210,7 +210,7 @@ NeuralNetworkRenderer::LineProfiles::LineProfiles(Profile profile, double width)
             Samples samples;
             double sum = 0;
             for (std::size_t i = 0; i < samples.size(); ++i) {
-                const double distance = static_cast<double>(i) - 1 - (phase + 0.5) / phases;
+                const auto distance = static_cast<double>(i) - 1 - (phase + 0.5) / phases;
                 samples[i] = static_cast<float>(profile(distance, slope, width));
                 sum += samples[i];
             }
@@ -266,7 +266,7 @@ NeuralNetworkRenderer::Kernel NeuralNetworkRenderer::kernelOf(double variance)
         double sum = 0;
         double squares = 0;
         for (std::size_t i = 0; i < shares.size(); ++i) {
-            const double distance = static_cast<double>(i);
+            const auto distance = static_cast<double>(i);
             shares[i] = std::exp(-distance * distance / (2 * wider));
             sum += shares[i] * (i == 0 ? 1 : 2);
             squares += shares[i] * distance * distance * 2;
@@ -381,7 +381,7 @@ void NeuralNetworkRenderer::drawLine(Plane& plane, const LineProfiles& profiles,
         const auto phase = static_cast<int>((middle - whole) * LineProfiles::phases);
         const LineProfiles::Samples& samples = profile[phase];
         float* const target = origin + step * onward + (whole - Plane::margin - 1) * across;
-        const float length = static_cast<float>(end - begin);
+        const auto length = static_cast<float>(end - begin);
         combine(target[0], length * samples[0]);
         combine(target[across], length * samples[1]);
         combine(target[2 * across], length * samples[2]);
@@ -412,7 +412,7 @@ void NeuralNetworkRenderer::drawGlows(const std::vector<QPointF>& positions, dou
     }
     for (const QPointF& position : positions) {
         const QPointF centre = coarse(position);
-        constexpr double reach = nodeGlowReach / 2;
+        constexpr double reach = nodeGlowReach / 2.0;
         const int left = std::max(-1, static_cast<int>(std::ceil(centre.x() - reach)));
         const int right = std::min(m_coarse.columns(), static_cast<int>(std::floor(centre.x() + reach)));
         const int top = std::max(-1, static_cast<int>(std::ceil(centre.y() - reach)));
@@ -492,7 +492,7 @@ void NeuralNetworkRenderer::drawDots(const std::vector<QPointF>& positions)
                     dots *= glows[i];
                     const QPointF way = pixel - positions[i];
                     if (touches(way)) {
-                        const float dot = static_cast<float>(dotOpacity * dotCoverage(way.x(), way.y()));
+                        const auto dot = static_cast<float>(dotOpacity * dotCoverage(way.x(), way.y()));
                         through = 1 - (1 - through) * (1 - dot);
                         dots += (1 - dots) * dot;
                     }

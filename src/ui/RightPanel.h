@@ -13,13 +13,13 @@ class RightPanel final : public QWidget
     Q_OBJECT
 
 public:
-    RightPanel(MainViewModel& vm, Clock& clock, QWidget* parent = nullptr);
+    RightPanel(MainViewModel& model, Clock& clock, QWidget* parent = nullptr);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QWidget* makeEmptyState();
+    static QWidget* makeEmptyState();
     QWidget* makeContent();
     QWidget* makeHeader();
     QWidget* makeProfileCard();

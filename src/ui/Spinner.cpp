@@ -16,7 +16,7 @@ constexpr int spokes = 8;
 
 Spinner::Spinner(double scale, QWidget* parent) : QWidget(parent)
 {
-    const int side = static_cast<int>(16 * scale + 0.5);
+    const int side = qRound(16 * scale);
     setFixedSize(side, side);
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }

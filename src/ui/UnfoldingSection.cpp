@@ -73,7 +73,7 @@ void UnfoldingSection::setProgress(double progress)
 QSize UnfoldingSection::sizeHint() const
 {
     const QSize inner = m_content ? m_content->sizeHint() : m_pictureSize;
-    return {inner.width() + m_indent, static_cast<int>(m_progress * (inner.height() + m_gap) + 0.5)};
+    return {inner.width() + m_indent, qRound(m_progress * (inner.height() + m_gap))};
 }
 
 QSize UnfoldingSection::minimumSizeHint() const

@@ -112,7 +112,8 @@ public Q_SLOTS:
     }
 
 Q_SIGNALS:
-    Q_SCRIPTABLE void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    // The group, the key and the value; what is generated for the signal names them otherwise.
+    Q_SCRIPTABLE void SettingChanged(const QString&, const QString&, const QDBusVariant&);
 };
 
 /// The real program on a real display beside a real NetworkManager, as somebody with assistive technology

@@ -44,7 +44,7 @@ struct Fixture {
     Fixture(const Fixture&) = delete;
     Fixture& operator=(const Fixture&) = delete;
 
-    void setAddress(const QString& service, const QString& address)
+    void setAddress(const QString& service, const QString& address) const
     {
         fakes.system->state[stateKey(service)] =
             Dictionary{{QStringLiteral("Addresses"), QStringList(address)}};

@@ -52,7 +52,7 @@ class ConformanceTest : public QObject
         m_real ? QStringLiteral("Wired connection 3") : QStringLiteral("Thunderbolt Bridge");
     const QString m_vpn = QStringLiteral("Office VPN");
 
-    AuthorizationRef consent()
+    AuthorizationRef consent() const
     {
         const auto reference = m_platform.authorization->create();
         const bool granted = reference && m_platform.authorization->copyRights(

@@ -43,7 +43,7 @@ private:
     SystemStatus commit(Profile& profile);
     SystemStatus apply(const Profile& profile);
     SystemStatus activate(NMRemoteConnection* connection, NMDevice* device, bool dhcp);
-    SystemStatus deactivate(NMActiveConnection* active);
+    SystemStatus deactivate(NMActiveConnection* borrowed);
     bool reapply(NMDevice* device);
 
     std::shared_ptr<NetworkManagerSession> m_session;

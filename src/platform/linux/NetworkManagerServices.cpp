@@ -167,7 +167,7 @@ std::vector<std::shared_ptr<Profile>> listProfiles(NMClient* client)
     return profiles;
 }
 
-std::shared_ptr<NetworkSet> networkSetOf(std::shared_ptr<NetworkManagerSession> session,
+std::shared_ptr<NetworkSet> networkSetOf(const std::shared_ptr<NetworkManagerSession>& session,
                                          std::vector<std::shared_ptr<Profile>> profiles)
 {
     std::vector<std::shared_ptr<NetworkService>> services;

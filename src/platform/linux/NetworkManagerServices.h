@@ -11,7 +11,7 @@ namespace ardeo
 std::vector<std::shared_ptr<Profile>> listProfiles(NMClient* client);
 
 /// Those profiles as the program's services.
-std::shared_ptr<NetworkSet> networkSetOf(std::shared_ptr<NetworkManagerSession> session,
+std::shared_ptr<NetworkSet> networkSetOf(const std::shared_ptr<NetworkManagerSession>& session,
                                          std::vector<std::shared_ptr<Profile>> profiles);
 
 /// The profile's activation, be it complete or under way; null when there is none.

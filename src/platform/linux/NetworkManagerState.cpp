@@ -87,7 +87,7 @@ std::optional<QVariant> NetworkManagerState::serviceState(const QString& service
     return std::nullopt;
 }
 
-std::optional<QVariant> NetworkManagerState::linkState(NMDevice* device) const
+std::optional<QVariant> NetworkManagerState::linkState(NMDevice* device)
 {
     Dictionary link;
     link[QStringLiteral("Active")] =
@@ -99,7 +99,7 @@ std::optional<QVariant> NetworkManagerState::linkState(NMDevice* device) const
     return link;
 }
 
-std::optional<QVariant> NetworkManagerState::leaseState(NMDevice* device) const
+std::optional<QVariant> NetworkManagerState::leaseState(NMDevice* device)
 {
     NMDhcpConfig* lease = nm_device_get_dhcp4_config(device);
     const char* server = lease ? nm_dhcp_config_get_one_option(lease, "dhcp_server_identifier") : nullptr;

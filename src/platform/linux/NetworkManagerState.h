@@ -15,8 +15,8 @@ public:
 
 private:
     std::optional<QVariant> serviceState(const QString& serviceID);
-    std::optional<QVariant> linkState(NMDevice* device) const;
-    std::optional<QVariant> leaseState(NMDevice* device) const;
+    static std::optional<QVariant> linkState(NMDevice* device);
+    static std::optional<QVariant> leaseState(NMDevice* device);
 
     std::shared_ptr<NetworkManagerSession> m_session;
 };

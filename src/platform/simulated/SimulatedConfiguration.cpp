@@ -137,7 +137,7 @@ private:
 class SimulatedPreferences final : public Preferences
 {
 public:
-    SimulatedPreferences(const SimulatedMachine& machine, Json snapshot, SystemStatus& status,
+    SimulatedPreferences(const SimulatedMachine& machine, const Json& snapshot, SystemStatus& status,
                          bool authorized)
         : m_machine(machine)
         , m_status(status)
@@ -359,10 +359,10 @@ std::optional<Json> SimulatedConfiguration::read()
 
 std::unique_ptr<Preferences> SimulatedConfiguration::open(bool authorized)
 {
-    auto machine = read();
+    const auto machine = read();
     if (!machine)
         return nullptr;
-    return std::make_unique<SimulatedPreferences>(m_machine, std::move(*machine), m_status, authorized);
+    return std::make_unique<SimulatedPreferences>(m_machine, *machine, m_status, authorized);
 }
 
 std::unique_ptr<Preferences> SimulatedConfiguration::createPreferences(const QString& /*name*/)
