@@ -1,8 +1,9 @@
 #include "platform/FileUserDefaults.h"
 
+#include "platform/FileReplacement.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace ardeo
 {
@@ -20,16 +21,26 @@ std::optional<QByteArray> FileUserDefaults::data(const QString& key) const
 
 void FileUserDefaults::set(const QByteArray& data, const QString& key)
 {
+    const auto failure = store(data, key);
+    if (!failure || m_failureTold)
+        return;
+    m_failureTold = true;
+    couldNotStore(QStringLiteral("Your profiles could not be saved: %1.").arg(*failure));
+}
+
+std::optional<QString> FileUserDefaults::store(const QByteArray& data, const QString& key) const
+{
     if (!m_folder.exists()) {
         const QFileInfo folder(m_folder.path());
         QDir().mkpath(folder.path());
         QDir().mkdir(folder.filePath(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
-    QSaveFile file(m_folder.filePath(key));
-    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner))
-        return;
-    if (file.write(data) == data.size())
-        file.commit();
+    // What is there and could not be read, for its rights or the disk's health, is worth more than its
+    // successor, which was made without knowing it.
+    QFile stored(m_folder.filePath(key));
+    if (stored.exists() && !this->data(key))
+        return QStringLiteral("those stored before cannot be read");
+    return replaceFile(stored.fileName(), data);
 }
 
 } // namespace ardeo

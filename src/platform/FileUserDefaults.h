@@ -16,7 +16,11 @@ public:
     void set(const QByteArray& data, const QString& key) override;
 
 private:
+    /// The reason why the data could not be stored; none when it was.
+    std::optional<QString> store(const QByteArray& data, const QString& key) const;
+
     QDir m_folder;
+    bool m_failureTold = false;
 };
 
 } // namespace ardeo

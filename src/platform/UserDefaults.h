@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace ardeo
@@ -17,6 +18,9 @@ public:
     virtual std::optional<QByteArray> data(const QString& key) const = 0;
     /// On disk when it returns. Where that cannot be had, what was stored before stays whole.
     virtual void set(const QByteArray& data, const QString& key) = 0;
+
+    /// Called from within set, with a sentence for the user, the first time in a run that it could not store.
+    std::function<void(const QString& sentence)> couldNotStore = [](const QString&) {};
 };
 
 } // namespace ardeo

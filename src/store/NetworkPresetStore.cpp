@@ -68,11 +68,21 @@ void NetworkPresetStore::persist()
     const auto encoded = encodePresets(m_presets);
     if (!encoded)
         return;
-    if (m_unreadable) {
-        m_defaults.set(*m_unreadable, key + QStringLiteral(".unreadable"));
-        m_unreadable.reset();
-    }
+    if (m_unreadable && !putAside(*m_unreadable))
+        return;
+    m_unreadable.reset();
     m_defaults.set(*encoded, key);
+}
+
+bool NetworkPresetStore::putAside(const QByteArray& unreadable)
+{
+    QString place = key + QStringLiteral(".unreadable");
+    // What was put aside before may be somebody's only copy too.
+    for (int number = 2; m_defaults.data(place).value_or(unreadable) != unreadable; ++number)
+        place = QStringLiteral("%1.unreadable-%2").arg(key).arg(number);
+    if (m_defaults.data(place) != unreadable)
+        m_defaults.set(unreadable, place);
+    return m_defaults.data(place) == unreadable;
 }
 
 } // namespace ardeo

@@ -34,6 +34,8 @@ Q_SIGNALS:
 
 private:
     void persist();
+    /// Whether what could not be read is kept elsewhere now.
+    bool putAside(const QByteArray& unreadable);
 
     const QString key;
     UserDefaults& m_defaults;

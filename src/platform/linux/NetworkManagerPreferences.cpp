@@ -6,10 +6,7 @@
 
 #include <QElapsedTimer>
 
-#include <cerrno>
 #include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
 #include <utility>
 
 namespace ardeo
@@ -98,13 +95,8 @@ NetworkManagerPreferences::NetworkManagerPreferences(std::shared_ptr<NetworkMana
     : m_session(std::move(session))
     , m_status(status)
     , m_authorized(authorized)
+    , m_lock(QLatin1String(lockFolder), O_RDONLY | O_DIRECTORY)
 {
-}
-
-NetworkManagerPreferences::~NetworkManagerPreferences()
-{
-    if (m_lockFile >= 0)
-        close(m_lockFile);
 }
 
 bool NetworkManagerPreferences::end(SystemStatus status)
@@ -127,7 +119,7 @@ bool NetworkManagerPreferences::lock(bool wait)
 {
     if (!m_authorized)
         return end(SystemStatus::accessError);
-    if (m_lockFile >= 0)
+    if (m_lock.isTaken())
         return end(SystemStatus::locked);
     SystemStatus status = takeFileLock(wait);
     if (status == SystemStatus::ok)
@@ -139,21 +131,14 @@ bool NetworkManagerPreferences::lock(bool wait)
 
 SystemStatus NetworkManagerPreferences::takeFileLock(bool wait)
 {
-    m_lockFile = open(lockFolder, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (m_lockFile < 0)
-        return SystemStatus::noPreferencesSession;
-    if (flock(m_lockFile, LOCK_EX | LOCK_NB) == 0)
-        return SystemStatus::ok;
-    if (errno != EWOULDBLOCK)
-        return SystemStatus::failed;
-    if (!wait)
-        return SystemStatus::preferencesBusy;
+    SystemStatus status = m_lock.take(false);
+    if (status != SystemStatus::preferencesBusy || !wait)
+        return status;
     QElapsedTimer waiting;
     waiting.start();
-    while (flock(m_lockFile, LOCK_EX) != 0) {
-        if (errno != EINTR)
-            return SystemStatus::failed;
-    }
+    status = m_lock.take(true);
+    if (status != SystemStatus::ok)
+        return status;
     m_session->extendDeadline(waiting.elapsed());
     // What the holder before us wrote is what we have to start from.
     m_profilesListed = false;
@@ -176,16 +161,15 @@ SystemStatus NetworkManagerPreferences::checkRights()
 
 bool NetworkManagerPreferences::unlock()
 {
-    if (m_lockFile < 0)
+    if (!m_lock.isTaken())
         return end(SystemStatus::needLock);
-    close(m_lockFile);
-    m_lockFile = -1;
+    m_lock.release();
     return end(SystemStatus::ok);
 }
 
 bool NetworkManagerPreferences::commitChanges()
 {
-    if (m_lockFile < 0)
+    if (!m_lock.isTaken())
         return end(SystemStatus::needLock);
     for (const auto& profile : m_profiles) {
         if (!profile->seen)
@@ -232,7 +216,7 @@ SystemStatus NetworkManagerPreferences::commit(Profile& profile)
 
 bool NetworkManagerPreferences::applyChanges()
 {
-    if (m_lockFile < 0)
+    if (!m_lock.isTaken())
         return end(SystemStatus::needLock);
     for (const auto& profile : m_profiles) {
         if (!profile->committed)

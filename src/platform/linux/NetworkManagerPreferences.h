@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/AdvisoryLock.h"
 #include "platform/linux/NetworkManagerSession.h"
 
 namespace ardeo
@@ -28,7 +29,6 @@ public:
                               bool authorized);
     NetworkManagerPreferences(const NetworkManagerPreferences&) = delete;
     NetworkManagerPreferences& operator=(const NetworkManagerPreferences&) = delete;
-    ~NetworkManagerPreferences() override;
 
     std::shared_ptr<NetworkSet> currentSet() override;
     bool lock(bool wait) override;
@@ -49,7 +49,7 @@ private:
     std::shared_ptr<NetworkManagerSession> m_session;
     SystemStatus& m_status;
     bool m_authorized;
-    int m_lockFile = -1;
+    AdvisoryLock m_lock;
     std::vector<std::shared_ptr<Profile>> m_profiles;
     bool m_profilesListed = false;
 };

@@ -1,9 +1,9 @@
 #include "platform/simulated/SimulatedConfiguration.h"
 
+#include "platform/AdvisoryLock.h"
 #include "platform/ProtocolConfiguration.h"
 
-#include <QLockFile>
-
+#include <fcntl.h>
 #include <utility>
 
 namespace ardeo
@@ -142,10 +142,8 @@ public:
         : m_machine(machine)
         , m_status(status)
         , m_authorized(authorized)
-        , m_lock(machine.file() + QStringLiteral(".lock"))
+        , m_lock(machine.file() + QStringLiteral(".lock"), O_RDWR | O_CREAT | O_NOFOLLOW)
     {
-        // A holder that still runs is never taken for dead, however long it takes.
-        m_lock.setStaleLockTime(0);
         take(snapshot);
     }
 
@@ -164,21 +162,19 @@ public:
     {
         if (!m_authorized)
             return end(SystemStatus::accessError);
-        if (m_lock.isLocked())
+        if (m_lock.isTaken())
             return end(SystemStatus::locked);
-        if (!m_lock.tryLock(0)) {
-            if (m_lock.error() != QLockFile::LockFailedError)
-                return end(SystemStatus::noPreferencesSession);
-            if (!wait)
-                return end(SystemStatus::preferencesBusy);
-            if (!m_lock.lock())
-                return end(SystemStatus::failed);
+        SystemStatus status = m_lock.take(false);
+        if (status == SystemStatus::preferencesBusy && wait) {
+            status = m_lock.take(true);
             // What the holder before us wrote is what we have to start from.
             take(m_machine.read().value_or(Json()));
         }
+        if (status != SystemStatus::ok)
+            return end(status);
         const auto machine = m_machine.read();
         if (!machine || !flagMember(*machine, "administrator", true)) {
-            m_lock.unlock();
+            m_lock.release();
             return end(machine ? SystemStatus::accessError : SystemStatus::noStoreServer);
         }
         return end(SystemStatus::ok);
@@ -215,9 +211,9 @@ public:
 
     bool unlock() override
     {
-        if (!m_lock.isLocked())
+        if (!m_lock.isTaken())
             return end(SystemStatus::needLock);
-        m_lock.unlock();
+        m_lock.release();
         return end(SystemStatus::ok);
     }
 
@@ -259,7 +255,7 @@ private:
     template <typename Step>
     bool change(Step step)
     {
-        if (!m_lock.isLocked())
+        if (!m_lock.isTaken())
             return end(SystemStatus::needLock);
         auto machine = m_machine.read();
         if (!machine)
@@ -289,7 +285,7 @@ private:
     const SimulatedMachine& m_machine;
     SystemStatus& m_status;
     bool m_authorized;
-    QLockFile m_lock;
+    AdvisoryLock m_lock;
     std::optional<std::vector<std::shared_ptr<ServiceRecord>>> m_records;
 };
 

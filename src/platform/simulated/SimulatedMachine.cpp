@@ -1,11 +1,11 @@
 #include "platform/simulated/SimulatedMachine.h"
 
+#include "platform/FileReplacement.h"
 #include "platform/ProtocolConfiguration.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <utility>
@@ -208,11 +208,8 @@ std::optional<Json> SimulatedMachine::read() const
 
 bool SimulatedMachine::write(const Json& machine) const
 {
-    QSaveFile file(m_file);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
     const std::string text = machine.dump(4, ' ', false, Json::error_handler_t::replace);
-    return file.write(text.data(), static_cast<qint64>(text.size())) >= 0 && file.commit();
+    return !replaceFile(m_file, QByteArray::fromStdString(text));
 }
 
 } // namespace ardeo

@@ -1,5 +1,6 @@
 #include "platform/simulated/SimulatedPlatform.h"
 
+#include "platform/FileReplacement.h"
 #include "platform/FileUserDefaults.h"
 #include "platform/simulated/SimulatedConfiguration.h"
 
@@ -40,11 +41,7 @@ class SimulatedLoginItem final : public LoginItem
 public:
     explicit SimulatedLoginItem(QString file) : m_file(std::move(file)) {}
     Status status() const override { return QFile::exists(m_file) ? Status::enabled : Status::notRegistered; }
-    std::optional<QString> registerItem() override
-    {
-        QFile file(m_file);
-        return file.open(QIODevice::WriteOnly) ? std::nullopt : std::optional(file.errorString());
-    }
+    std::optional<QString> registerItem() override { return replaceFile(m_file, {}); }
     std::optional<QString> unregisterItem() override
     {
         QFile file(m_file);
