@@ -74,6 +74,8 @@ class FakeUserDefaults final : public UserDefaults
 public:
     QMap<QString, QByteArray> values;
     int writes = 0;
+    /// Drops what is set.
+    bool full = false;
     std::optional<QByteArray> data(const QString& key) const override
     {
         return values.contains(key) ? std::optional(values.value(key)) : std::nullopt;
@@ -81,7 +83,8 @@ public:
     void set(const QByteArray& data, const QString& key) override
     {
         ++writes;
-        values.insert(key, data);
+        if (!full)
+            values.insert(key, data);
     }
 };
 

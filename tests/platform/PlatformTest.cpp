@@ -3,10 +3,16 @@
 #include "platform/ProtocolConfiguration.h"
 #include "platform/linux/BootTimeClock.h"
 #include "platform/linux/XdgLoginItem.h"
+#include "platform/simulated/SimulatedPlatform.h"
 
 #include <QFutureWatcher>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace ardeo;
 using namespace std::chrono_literals;
@@ -77,6 +83,70 @@ private Q_SLOTS:
                  QFile::Permissions());
         defaults.set({}, key);
         QCOMPARE(defaults.data(key), QByteArray());
+    }
+
+    void whatCannotBeStoredIsToldOnceAndLeavesWhatIsThere()
+    {
+        const QTemporaryDir place;
+        const QDir folder(place.path());
+        const QString key = QStringLiteral("key");
+        FileUserDefaults(folder).set("old", key);
+        QFile::setPermissions(folder.filePath(key), QFile::Permissions(0x6444));
+        const auto told = [&](const auto& hinder) {
+            FileUserDefaults defaults(folder);
+            QString sentences;
+            defaults.couldNotStore = [&](const QString& sentence) { sentences += sentence; };
+            hinder(true);
+            defaults.set("newer", key);
+            defaults.set("newest", key);
+            hinder(false);
+            return sentences;
+        };
+        const auto full = [](bool now) {
+            std::signal(SIGXFSZ, SIG_IGN);
+            const rlimit limit{now ? 3 : RLIM_INFINITY, RLIM_INFINITY};
+            setrlimit(RLIMIT_FSIZE, &limit);
+        };
+        const auto readOnly = [&](bool now) { // root writes everywhere; somebody else does not
+            QVERIFY(seteuid(now && getuid() == 0 ? 65534 : getuid()) == 0);
+            chmod(QFile::encodeName(folder.path()).constData(), now ? 0555 : 0755);
+        };
+        readOnly(false);
+        QCOMPARE(told(full), QStringLiteral("Your profiles could not be saved: File too large."));
+        QCOMPARE(told(readOnly), QStringLiteral("Your profiles could not be saved: Permission denied."));
+        QCOMPARE(FileUserDefaults(folder).data(key), QByteArray("old"));
+        QCOMPARE(folder.entryList(QDir::Files), QStringList(key));
+        QVERIFY(QFile::remove(folder.filePath(key)) && folder.mkdir(key));
+        QCOMPARE(told([](bool) {}),
+                 QStringLiteral("Your profiles could not be saved: those stored before cannot be read."));
+    }
+
+    void nobodyElsesFileIsWrittenOrReadableThroughOurs()
+    {
+        const QTemporaryDir folder;
+        const auto place = [&](const char* name) { return folder.filePath(QLatin1String(name)); };
+        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("machine.defaults")));
+        const QStringList links{place("machine"), place("machine.defaults/key"), place("machine.login-item"),
+                                place("machine.lock")};
+        for (const QString& link : links)
+            QVERIFY(QFile::link(place("victim"), link));
+        Platform platform = simulatedPlatform(place("machine"), std::make_unique<BootTimeClock>());
+        QVERIFY(!QFile::exists(place("victim")));
+        FileUserDefaults victim(QDir(folder.path()));
+        victim.set("theirs", QStringLiteral("victim"));
+        platform.userDefaults->set("own", QStringLiteral("key"));
+        QVERIFY(!platform.loginItem->registerItem());
+        const auto preferences =
+            platform.systemConfiguration->createPreferencesWithAuthorization({}, AuthorizationRef{1});
+        QVERIFY(!preferences->lock(true)); // a link is no lock of ours
+        QCOMPARE(victim.data(QStringLiteral("victim")), QByteArray("theirs"));
+        QVERIFY(QFile::remove(links.last()) && preferences->lock(true));
+        for (const QString& file : links) {
+            struct stat found {
+            };
+            QVERIFY(lstat(QFile::encodeName(file).constData(), &found) == 0);
+            QCOMPARE(found.st_mode, mode_t(S_IFREG | S_IRUSR | S_IWUSR));
+        }
     }
 
     void loginItemIsAnAutostartEntry()

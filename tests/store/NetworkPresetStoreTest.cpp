@@ -71,6 +71,16 @@ private Q_SLOTS:
         store.upsert(preset("Home"));
         QCOMPARE(defaults.values[key + QStringLiteral(".unreadable")], QByteArray("[{}]"));
         QCOMPARE(NetworkPresetStore(defaults).presets().size(), 2);
+        defaults.values[key] = "{"; // another one, with no room beside it at first
+        NetworkPresetStore second(defaults);
+        defaults.full = true;
+        second.upsert(preset("Office"));
+        defaults.full = false;
+        QCOMPARE(defaults.values[key], QByteArray("{"));
+        second.upsert(preset("Home"));
+        QCOMPARE(defaults.values[key + QStringLiteral(".unreadable")], QByteArray("[{}]"));
+        QCOMPARE(defaults.values[key + QStringLiteral(".unreadable-2")], QByteArray("{"));
+        QCOMPARE(NetworkPresetStore(defaults).presets().size(), 2);
     }
 
     void listThatCannotBeEncodedStaysInMemory()
