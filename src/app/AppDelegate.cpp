@@ -17,6 +17,11 @@ void bringToFront(QWidget& window)
     activateIgnoringOtherApps(*window.windowHandle());
 }
 
+void quit()
+{
+    QApplication::exit();
+}
+
 void AppDelegate::applicationDidFinishLaunching()
 {
     QApplication::setQuitOnLastWindowClosed(applicationShouldTerminateAfterLastWindowClosed());

@@ -34,6 +34,9 @@ private:
     bool m_hasExplained = false;
 };
 
+/// Ends the program, whatever it is doing, without asking its windows: the main one would refuse to close.
+void quit();
+
 /// Brings a window to the front, also one that is hidden or minimised.
 void bringToFront(QWidget& window);
 

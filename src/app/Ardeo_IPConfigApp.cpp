@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QShortcut>
-#include <QVBoxLayout>
 
 namespace ardeo
 {
@@ -24,20 +23,17 @@ constexpr int smallestHeight = 200;
 constexpr int aboutIconSize = 64;
 
 /// Fills the window with the content, and has Ctrl+W ask it to close.
-QVBoxLayout* fillWindow(QWidget& window, QWidget* content)
+void fillWindow(QMainWindow& window, QWidget* content)
 {
-    auto* layout = new QVBoxLayout(&window);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(content);
+    window.setCentralWidget(content);
     QObject::connect(new QShortcut(Qt::CTRL | Qt::Key_W, &window), &QShortcut::activated, &window,
                      &QWidget::close);
-    return layout;
 }
 
 /// A window beside the main one; its width is its content's.
 QWidget* makeWindow(const QString& title, QSize size, QWidget* content)
 {
-    auto* window = new QWidget;
+    auto* window = new QMainWindow;
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(title);
     fillWindow(*window, content);
@@ -67,12 +63,12 @@ void Ardeo_IPConfigApp::setUpMainWindow()
     auto* content =
         new ContentView(*vm, *m_platform.clock, notifications, [this](const QString& id) { openWindow(id); });
     m_mainWindow.setWindowTitle(QStringLiteral("Ardeo IP Config"));
-    QVBoxLayout* layout = fillWindow(m_mainWindow, content);
-    layout->setMenuBar(makeMainMenu({.vm = *vm,
-                                     .appDelegate = appDelegate,
-                                     .notifications = notifications,
-                                     .workspace = *m_platform.workspace,
-                                     .showAboutPanel = [this] { showAboutPanel(); }}));
+    fillWindow(m_mainWindow, content);
+    m_mainWindow.setMenuBar(makeMainMenu({.vm = *vm,
+                                          .appDelegate = appDelegate,
+                                          .notifications = notifications,
+                                          .workspace = *m_platform.workspace,
+                                          .showAboutPanel = [this] { showAboutPanel(); }}));
     WindowHider::makeView(appDelegate)->setParent(&m_mainWindow);
     m_mainWindow.resize(defaultSize);
 }

@@ -4,6 +4,8 @@
 #include "model/MainViewModel.h"
 #include "platform/NotificationCenter.h"
 
+#include <QMainWindow>
+
 namespace ardeo
 {
 
@@ -29,7 +31,7 @@ private:
     void showAboutPanel();
 
     Platform& m_platform;
-    QWidget m_mainWindow;
+    QMainWindow m_mainWindow;
     QPointer<QWidget> m_aboutPanel;
     /// The other windows by their identifiers; ours to delete, unless the user has closed them.
     QHash<QString, QPointer<QWidget>> m_windows;

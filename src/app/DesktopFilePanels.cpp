@@ -19,7 +19,7 @@ namespace
 class PortalPanel final : public QDialog
 {
 public:
-    explicit PortalPanel(QWidget* parent) : QDialog(parent)
+    PortalPanel()
     {
         setAttribute(Qt::WA_DontShowOnScreen);
         connect(&portal, &FileChooserPortal::chosen, this, [this](const std::optional<QString>& path) {
@@ -34,17 +34,18 @@ public:
     /// False where no portal showed a panel; else what was chosen is in chosen.
     bool run() { return exec() == Accepted; }
     const std::optional<QString>& chosen() const { return m_chosen; }
-    /// The window that the panel belongs to, as portals name it; only X11's can be named without more ado.
-    QString window() const
-    {
-        const bool isX11 = QGuiApplication::platformName() == QStringLiteral("xcb");
-        return isX11 && parentWidget() ? QStringLiteral("x11:%1").arg(parentWidget()->winId(), 0, 16)
-                                       : QString();
-    }
 
 private:
     std::optional<QString> m_chosen;
 };
+
+/// The window that a panel belongs to, as portals name it; only X11's can be named without more ado.
+QString activeWindow()
+{
+    const QWidget* window = QApplication::activeWindow();
+    const bool isX11 = QGuiApplication::platformName() == QStringLiteral("xcb");
+    return isX11 && window ? QStringLiteral("x11:%1").arg(window->winId(), 0, 16) : QString();
+}
 
 std::optional<QString> asPlace(const QString& path)
 {
@@ -56,8 +57,8 @@ std::optional<QString> asPlace(const QString& path)
 std::optional<QString> DesktopFilePanels::askWhereToSave(const QString& proposedName, const QString& message)
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    PortalPanel panel(QApplication::activeWindow());
-    panel.portal.askWhereToSave(panel.window(), message, folder, proposedName);
+    PortalPanel panel;
+    panel.portal.askWhereToSave(activeWindow(), message, folder, proposedName);
     if (panel.run())
         return panel.chosen();
     return asPlace(QFileDialog::getSaveFileName(QApplication::activeWindow(), message,
@@ -66,8 +67,8 @@ std::optional<QString> DesktopFilePanels::askWhereToSave(const QString& proposed
 
 std::optional<QString> DesktopFilePanels::askWhatToOpen(const QString& message)
 {
-    PortalPanel panel(QApplication::activeWindow());
-    panel.portal.askWhatToOpen(panel.window(), message);
+    PortalPanel panel;
+    panel.portal.askWhatToOpen(activeWindow(), message);
     if (panel.run())
         return panel.chosen();
     return asPlace(QFileDialog::getOpenFileName(QApplication::activeWindow(), message));

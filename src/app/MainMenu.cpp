@@ -53,7 +53,7 @@ QMenuBar* makeMainMenu(const MainMenuTargets& targets)
     addCommand(application, "Hide Ardeo IP Config", {Qt::CTRL | Qt::Key_H},
                [&appDelegate] { appDelegate.hide(); });
     application->addSeparator();
-    addCommand(application, "Quit Ardeo IP Config", {Qt::CTRL | Qt::Key_Q}, [] { QApplication::quit(); });
+    addCommand(application, "Quit Ardeo IP Config", {Qt::CTRL | Qt::Key_Q}, &quit);
 
     QMenu* file = bar->addMenu(QStringLiteral("&File"));
     addCommand(file, "Import Profiles…", {Qt::CTRL | Qt::SHIFT | Qt::Key_I}, [&vm] { vm.importPresets(); });

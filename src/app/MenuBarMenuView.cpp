@@ -73,7 +73,7 @@ MenuBarMenuView::MenuBarMenuView(MainViewModel& model, AppDelegate& appDelegate,
         loginItem, [this] { return loginItemTitle(vm.isLoginItem.value()); },
         [loginItem](const QString& title) { loginItem->setText(title); });
     addSeparator();
-    addAction(QStringLiteral("Quit"), this, [] { QApplication::quit(); });
+    addAction(QStringLiteral("Quit"), this, &quit);
 }
 
 QCoro::Task<> MenuBarMenuView::openShortcuts()

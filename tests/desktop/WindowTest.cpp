@@ -1,67 +1,12 @@
+#include "desktop/Desktop.h"
 #include "platform/linux/DesktopAppearance.h"
 
-#include <QDBusConnection>
-#include <QDBusMetaType>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
-#include <QTest>
-
-#include <atspi/atspi.h>
-#include <memory>
 
 namespace
 {
-
-struct Unref {
-    void operator()(gpointer object) const { g_object_unref(object); }
-};
-using Node = std::unique_ptr<AtspiAccessible, Unref>;
-
-QString textOf(char* text)
-{
-    const std::unique_ptr<char, decltype(&g_free)> owner(text, &g_free);
-    return QString::fromUtf8(text);
-}
-
-/// The showing widget of that role and name in the program; null when there is none.
-Node find(AtspiAccessible* root, AtspiRole role, const QString& name)
-{
-    const int count = atspi_accessible_get_child_count(root, nullptr);
-    for (int i = 0; i < count; ++i) {
-        Node child(atspi_accessible_get_child_at_index(root, i, nullptr));
-        if (!child)
-            continue;
-        if (atspi_accessible_get_role(child.get(), nullptr) == role &&
-            textOf(atspi_accessible_get_name(child.get(), nullptr)) == name) {
-            AtspiStateSet* set = atspi_accessible_get_state_set(child.get());
-            const bool showing = atspi_state_set_contains(set, ATSPI_STATE_SHOWING) != FALSE;
-            g_object_unref(set);
-            if (showing)
-                return child;
-        }
-        if (Node found = find(child.get(), role, name))
-            return found;
-    }
-    return nullptr;
-}
-
-Node find(AtspiRole role, const char* name)
-{
-    atspi_accessible_clear_cache(nullptr);
-    const Node desktop(atspi_get_desktop(0));
-    atspi_accessible_clear_cache(desktop.get());
-    return find(desktop.get(), role, QString::fromUtf8(name));
-}
-
-bool isEnabled(const Node& node)
-{
-    AtspiStateSet* set = node ? atspi_accessible_get_state_set(node.get()) : nullptr;
-    const bool enabled = set && atspi_state_set_contains(set, ATSPI_STATE_ENABLED) != FALSE;
-    if (set)
-        g_object_unref(set);
-    return enabled;
-}
 
 QString output(const QString& program, const QStringList& arguments)
 {
@@ -86,35 +31,7 @@ QString gateways()
                    QStringLiteral("default"), QStringLiteral("dev"), QStringLiteral("eth0")});
 }
 
-void key(unsigned symbol)
-{
-    atspi_generate_keyboard_event(static_cast<glong>(symbol), nullptr, ATSPI_KEY_SYM, nullptr);
-}
-
 } // namespace
-
-using SettingGroups = QMap<QString, QVariantMap>;
-
-/// The desktop's portal, of a user who wants less motion: the window then stands still and answers quickly.
-class Portal : public QObject
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-
-public:
-    bool asked = false;
-
-public Q_SLOTS:
-    Q_SCRIPTABLE SettingGroups ReadAll(const QStringList&)
-    {
-        asked = true;
-        return {{QStringLiteral("org.freedesktop.appearance"), {{QStringLiteral("reduced-motion"), 1U}}}};
-    }
-
-Q_SIGNALS:
-    // The group, the key and the value; what is generated for the signal names them otherwise.
-    Q_SCRIPTABLE void SettingChanged(const QString&, const QString&, const QDBusVariant&);
-};
 
 /// The real program on a real display beside a real NetworkManager, as somebody with assistive technology
 /// uses it. Runs in the lab; LAB_NM_PID is the daemon's process, LAB_PROGRAM the program.
@@ -130,17 +47,9 @@ class WindowTest : public QObject
     static void press(const char* button)
     {
         QTRY_VERIFY_WITH_TIMEOUT(isEnabled(find(ATSPI_ROLE_PUSH_BUTTON, button)), patience);
-        const Node node = find(ATSPI_ROLE_PUSH_BUTTON, button);
-        const std::unique_ptr<AtspiAction, Unref> action(atspi_accessible_get_action_iface(node.get()));
-        QVERIFY(action && atspi_action_do_action(action.get(), 0, nullptr));
+        QVERIFY(activate(find(ATSPI_ROLE_PUSH_BUTTON, button)));
     }
-    static void choose(const char* radio)
-    {
-        const Node node = find(ATSPI_ROLE_RADIO_BUTTON, radio);
-        QVERIFY(node);
-        const std::unique_ptr<AtspiAction, Unref> action(atspi_accessible_get_action_iface(node.get()));
-        QVERIFY(action && atspi_action_do_action(action.get(), 0, nullptr));
-    }
+    static void choose(const char* radio) { QVERIFY(activate(find(ATSPI_ROLE_RADIO_BUTTON, radio))); }
     static void focus(AtspiRole role, const char* name)
     {
         QTRY_VERIFY_WITH_TIMEOUT(find(role, name) != nullptr, patience);
@@ -295,10 +204,7 @@ private Q_SLOTS:
         press("Refresh");
         QTRY_VERIFY_WITH_TIMEOUT(shows("No Network Services"), patience);
         QProcess::execute(QStringLiteral("kill"), {QStringLiteral("-CONT"), daemon});
-        constexpr glong control = 37; // its key code
-        atspi_generate_keyboard_event(control, nullptr, ATSPI_KEY_PRESS, nullptr);
-        key('r');
-        atspi_generate_keyboard_event(control, nullptr, ATSPI_KEY_RELEASE, nullptr);
+        control('r');
         QTRY_VERIFY_WITH_TIMEOUT(shows("Set Profile Properties") && shows("10.77.0.1"), patience);
     }
 };
