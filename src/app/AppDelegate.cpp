@@ -1,9 +1,9 @@
 #include "app/AppDelegate.h"
 
+#include "app/Notice.h"
 #include "platform/linux/X11Desktop.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QWindow>
 
 namespace ardeo
@@ -46,14 +46,9 @@ void AppDelegate::hideMainWindow()
     mainWindow->showMinimized();
     if (std::exchange(m_hasExplained, true))
         return;
-    auto* why = new QMessageBox(
-        QMessageBox::Information, QStringLiteral("Ardeo IP Config"),
+    showNotice(
         QStringLiteral("Ardeo IP Config is still running. This desktop shows no menu bar icons, so its "
-                       "window was minimised instead of hidden. Ctrl+Q ends the program."),
-        QMessageBox::Ok);
-    why->setAttribute(Qt::WA_DeleteOnClose);
-    why->setModal(false);
-    why->show();
+                       "window was minimised instead of hidden. Ctrl+Q ends the program."));
 }
 
 void AppDelegate::hide()

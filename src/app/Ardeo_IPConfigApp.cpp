@@ -1,6 +1,7 @@
 #include "app/Ardeo_IPConfigApp.h"
 
 #include "app/MainMenu.h"
+#include "app/Notice.h"
 #include "app/WindowHider.h"
 #include "ui/ContentView.h"
 #include "ui/HelpView.h"
@@ -49,6 +50,7 @@ Ardeo_IPConfigApp::Ardeo_IPConfigApp(Platform& platform)
     : vm(MainViewModel::create(platform))
     , m_platform(platform)
 {
+    platform.userDefaults->couldNotStore = &showNotice;
     setUpMainWindow();
 }
 
