@@ -1,6 +1,7 @@
 #include "backend/NetworkPreset.h"
 
 #include <QRegularExpression>
+#include <QStringConverter>
 
 #include <nlohmann/json.hpp>
 
@@ -28,7 +29,9 @@ QString textAt(const Json& object, const char* key)
     const auto value = object.find(key);
     if (value == object.end() || !value->is_string())
         throw CodingFailure();
-    return QString::fromStdString(value->get_ref<const std::string&>());
+    // Reading a whole file would drop a byte order mark at its start; here it is a character of the text.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder(QByteArrayView(value->get_ref<const std::string&>()));
 }
 
 template <typename Mode>
