@@ -56,6 +56,9 @@ constexpr auto seedText = R"({
     ]
 })";
 
+/// A machine needs far less; what is read is walked by recursion, whose stack is limited.
+constexpr int deepestNesting = 32;
+
 QString fromJsonText(const Json& text)
 {
     return QString::fromStdString(text.get_ref<const std::string&>());
@@ -202,8 +205,13 @@ std::optional<Json> SimulatedMachine::read() const
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     const QByteArray text = file.readAll();
-    Json machine = Json::parse(text.begin(), text.end(), nullptr, false);
-    return machine.is_object() ? std::optional(std::move(machine)) : std::nullopt;
+    bool tooDeep = false;
+    const auto keepIfShallow = [&tooDeep](int depth, Json::parse_event_t, const Json&) {
+        tooDeep = tooDeep || depth > deepestNesting;
+        return !tooDeep;
+    };
+    Json machine = Json::parse(text.begin(), text.end(), keepIfShallow, false);
+    return machine.is_object() && !tooDeep ? std::optional(std::move(machine)) : std::nullopt;
 }
 
 bool SimulatedMachine::write(const Json& machine) const
