@@ -1,4 +1,4 @@
-# Sourced by ./run and ./test: installs from Debian's packages what is missing, and says what.
+# Sourced by ./run, ./test and tests/fuzz/run: installs from Debian's packages what is missing, and says what.
 
 build_packages=(
     g++ cmake ninja-build pkg-config
@@ -8,6 +8,7 @@ test_packages=(
     clang-format network-manager polkitd dnsmasq-base dbus dbus-bin iproute2 util-linux bsdutils
     libatspi2.0-dev at-spi2-core xvfb openbox fonts-dejavu-core xdotool trayer desktop-file-utils clang-tidy cppcheck
 )
+fuzzing_packages=(clang libclang-rt-14-dev)
 screenshot_packages=(fonts-inter fonts-dejavu-core)
 
 # need_packages PACKAGE...: returns when all of them are installed; ends the script when that cannot be had.
