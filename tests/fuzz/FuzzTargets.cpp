@@ -1,0 +1,212 @@
+#include "backend/Errors.h"
+#include "backend/NetworkConfigService.h"
+#include "backend/NetworkPreset.h"
+#include "fakes/FakeSystemConfiguration.h"
+#include "platform/ProtocolConfiguration.h"
+#include "platform/simulated/SimulatedConfiguration.h"
+#include "ui/IPAddressField.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace ardeo;
+
+namespace
+{
+
+/// What a target promises of every input; libFuzzer keeps the input that breaks it.
+void promise(bool kept)
+{
+    if (!kept)
+        qFatal("A promise is broken.");
+}
+
+/// Makes values of the bytes of an input; past its end there are zeros.
+class Invention
+{
+public:
+    explicit Invention(const QByteArray& input) : m_input(input) {}
+    bool atEnd() const { return m_at >= m_input.size(); }
+    /// A number below the limit, which is at most 256.
+    int number(int limit) { return static_cast<uchar>(m_input.mid(m_at++, 1).append('\0').front()) % limit; }
+    QString oneOf(const QStringList& texts) { return texts.at(number(static_cast<int>(texts.size()))); }
+    QString text()
+    {
+        const int kind = number(3);
+        QString text =
+            kind == 0 ? oneOf(QStringLiteral(" . 7 DHCP Manual 10.0.0.2 10.2.3.4 255.255.0.0").split(u' '))
+                      : QString();
+        for (int left = kind * number(6); left > 0; --left) // any unit at all, halves of pairs too
+            text += QChar(static_cast<char16_t>(number(256) + (kind == 2 ? number(256) * 256 : 0)));
+        return text;
+    }
+    std::optional<QString> maybeText() { return number(8) > 0 ? std::optional(text()) : std::nullopt; }
+    /// A value that a system could hand out, of the right kind or of a wrong one.
+    QVariant value(int depth = 3)
+    {
+        const QVariantList simple{{},  number(2) == 1,  qint64(number(256)) << 40,
+                                  2.5, QByteArray("x"), text()};
+        const int kind = number(depth > 0 ? 9 : 6);
+        if (kind < simple.size())
+            return simple.at(kind);
+        if (kind == 6)
+            return dictionary(depth - 1);
+        QVariantList list;
+        for (int left = number(4); left > 0; --left)
+            list.append(kind == 7 ? text() : value(depth - 1));
+        return kind == 7 ? QVariant(QVariant(list).toStringList()) : list;
+    }
+    Dictionary dictionary(int depth = 3)
+    {
+        static const QStringList keys =
+            QStringLiteral("ConfigMethod Addresses SubnetMasks Router ServerAddresses "
+                           "ServerAddress SearchDomains Active Speed Duplex")
+                .split(u' ');
+        Dictionary dictionary;
+        for (int left = number(8); left > 0; --left)
+            dictionary.insert(oneOf(keys), value(depth));
+        return dictionary;
+    }
+
+private:
+    QByteArray m_input;
+    qsizetype m_at = 0;
+};
+
+/// Profiles in any bytes: what can be read is as it was written, can be written, and reads the same again.
+void profiles(const QByteArray& input)
+{
+    const auto presets = decodePresets(input);
+    if (!presets)
+        return;
+    const auto read = nlohmann::json::parse(input.begin(), input.end());
+    for (size_t i = 0; i < read.size(); ++i)
+        promise(read[i]["name"] == presets->at(qsizetype(i)).name.string().toStdString());
+    const auto written = encodePresets(*presets);
+    promise(written && decodePresets(*written) == presets);
+    promise(encodePresets(*decodePresets(*written)) == written);
+}
+
+/// Any bytes as the simulated machine's file: what the backend changes of it stays a machine.
+void machine(const QByteArray& input)
+{
+    static const QTemporaryDir folder(
+        QStringLiteral("/dev/shm/machine-XXXXXX")); // no disk: it is about speed
+    static const SimulatedMachine machine(folder.filePath(QStringLiteral("machine.json")));
+    static SimulatedConfiguration system(machine);
+    static NetworkConfigService service(system);
+    QFile file(machine.file());
+    promise(file.open(QIODevice::WriteOnly) && file.write(input) == input.size() && file.flush());
+    const bool readable = machine.read().has_value();
+    const QList<AdapterInfo> adapters = service.listAdapters().result();
+    const Text name = adapters.isEmpty() ? Text() : adapters.constLast().serviceName;
+    NetworkAdapterInfo settings = service.currentConfig(name).result();
+    for (const IPv4Mode mode : ModeTexts<IPv4Mode>::allCases) {
+        settings.ipv4Mode = mode;
+        try {
+            service.writeConfiguration(name, settings, AuthorizationRef{1}).waitForFinished();
+            service.setServiceEnabled(input.size() % 2 == 0, name, AuthorizationRef{1}).waitForFinished();
+            promise(service.currentConfig(name).result().ipv4Mode == mode);
+        } catch (const ConfigError&) {
+            promise(machine.read().has_value() == readable);
+        }
+    }
+    promise(service.listAdapters().result().size() == adapters.size());
+}
+
+/// Whatever a system hands out under whatever key: the backend takes what is right and leaves the rest.
+void dictionaries(const QByteArray& input)
+{
+    static FakeSystemConfiguration system;
+    static NetworkConfigService service(system);
+    Invention invention(input);
+    system.calls.clear();
+    system.state.clear();
+    system.services.emplace();
+    system.computerName = invention.maybeText();
+    for (int left = invention.number(4); left > 0; --left) {
+        FakeSystemConfiguration::Service made{.name = invention.maybeText(), .id = invention.maybeText()};
+        made.interface = {invention.maybeText(), invention.maybeText(), invention.maybeText()};
+        for (auto& protocol : made.protocols)
+            protocol = invention.value();
+        const QString interface =
+            QStringLiteral("State:/Network/Interface/") + made.interface->bsdName.value_or(QString());
+        for (const QString& key :
+             {QStringLiteral("State:/Network/Service/%1/IPv4").arg(made.id.value_or(QString())),
+              interface + QStringLiteral("/Link"), interface + QStringLiteral("/DHCP")})
+            system.state[key] = invention.value();
+        system.services->append(made);
+    }
+    const QList<AdapterInfo> adapters = service.listAdapters().result();
+    promise(std::ranges::is_sorted(adapters, std::greater(), &AdapterInfo::isActive));
+    for (const AdapterInfo& adapter : adapters) {
+        const NetworkAdapterInfo settings = service.currentConfig(adapter.serviceName).result();
+        promise(settings.dnsMode == DNSMode::manual || settings.alternateDNS.isEmpty());
+        service.writeConfiguration(adapter.serviceName, settings, {}).waitForFinished();
+    }
+    const auto ipv4 = checkedIPv4(invention.dictionary());
+    promise(!ipv4 || ipv4->manual != ipv4->addresses.isEmpty());
+    const auto dns = checkedDNS(invention.dictionary());
+    promise(!dns || !dns->serverAddresses.contains(QString()));
+}
+
+/// Keys, pastes and assignments in any order: each octet stays one, and the bound text follows.
+void octets(const QByteArray& input)
+{
+    static int count = 0;
+    static const auto* application = new QApplication(count, nullptr);
+    promise(application);
+    Observed<Text> value;
+    IPAddressField field(value, QStringLiteral("192.168.1.1"), QStringLiteral("IP Address:"));
+    Invention invention(input);
+    QLineEdit* octet = field.octet(0);
+    const std::array<std::function<void()>, 7> operations{
+        [&] { octet = field.octet(invention.number(4)); },
+        [&] { value = invention.text(); },
+        [&] { octet->insert(invention.text()); },
+        [&] { octet->setCursorPosition(invention.number(4)); },
+        [&] { octet->undo(); },
+        [&] { octet->backspace(); },
+        [&] { QTest::keyClick(octet, static_cast<char>('0' + invention.number(10))); }};
+    while (!invention.atEnd()) {
+        operations.at(static_cast<size_t>(invention.number(7)))();
+        QCoreApplication::processEvents();
+        for (int i = 0; i < 4; ++i) {
+            const QString part = field.currentParts().at(static_cast<size_t>(i));
+            promise(part.toUcs4().size() <= 3 && part.toInt() <= 255 && field.octet(i)->text() == part);
+            promise(value.value().string().split(u'.').value(i) == part);
+        }
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uchar* data, size_t size)
+{
+    static const QMap<QString, void (*)(const QByteArray&)> targets{
+        {QStringLiteral("profiles"), profiles},
+        {QStringLiteral("machine"), machine},
+        {QStringLiteral("dictionaries"), dictionaries},
+        {QStringLiteral("octets"), octets}};
+    static const auto target = targets.value(qEnvironmentVariable("FUZZ_TARGET"));
+    target(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
+    return 0;
+}
+
+#ifdef REPLAY
+/// Gives the target every file of a folder, where there is no libFuzzer to invent some.
+int main(int, char** arguments)
+{
+    const QDir folder(QString::fromLocal8Bit(arguments[1]));
+    promise(!folder.isEmpty());
+    for (const QString& name : folder.entryList(QDir::Files)) {
+        QFile file(folder.filePath(name));
+        promise(file.open(QIODevice::ReadOnly));
+        qInfo("%s", qUtf8Printable(file.fileName()));
+        const QByteArray input = file.readAll();
+        LLVMFuzzerTestOneInput(reinterpret_cast<const uchar*>(input.constData()),
+                               static_cast<size_t>(input.size()));
+    }
+}
+#endif
