@@ -5,18 +5,16 @@ find_program(CPPCHECK cppcheck REQUIRED)
 
 function(tidy_folder folder)
     get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
-    get_property(binary_folder DIRECTORY ${folder} PROPERTY BINARY_DIR)
+    get_property(objects DIRECTORY ${folder} PROPERTY BINARY_DIR)
     foreach(target IN LISTS targets)
         get_target_property(sources ${target} SOURCES)
         list(FILTER sources INCLUDE REGEX "^[^$/].*\\.cpp$")
         foreach(source IN LISTS sources)
             set(stamp ${CMAKE_BINARY_DIR}/clang-tidy/${target}/${source}.checked)
-            add_custom_command(OUTPUT ${stamp}
+            add_custom_command(OUTPUT ${stamp} VERBATIM
+                DEPENDS ${objects}/CMakeFiles/${target}.dir/${source}.o ${PROJECT_SOURCE_DIR}/.clang-tidy
                 COMMAND ${CLANG_TIDY} -p ${CMAKE_BINARY_DIR} --quiet ${folder}/${source}
-                COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
-                DEPENDS ${binary_folder}/CMakeFiles/${target}.dir/${source}.o
-                    ${PROJECT_SOURCE_DIR}/.clang-tidy ${PROJECT_SOURCE_DIR}/tests/.clang-tidy
-                VERBATIM)
+                COMMAND ${CMAKE_COMMAND} -E touch ${stamp})
             set_property(GLOBAL APPEND PROPERTY tidy_stamps ${stamp})
         endforeach()
     endforeach()
@@ -32,8 +30,6 @@ add_custom_target(clang-tidy DEPENDS ${tidy_stamps})
 add_test(NAME clang-tidy COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --target clang-tidy -- -k 0)
 set_tests_properties(clang-tidy PROPERTIES PROCESSORS 2)
 
-add_test(NAME cppcheck
-    COMMAND ${CPPCHECK} --quiet --error-exitcode=1 --std=c++20 --library=qt --inline-suppr
-        --enable=warning,style,performance,portability -I src
-        --suppressions-list=tests/cppcheck-suppressions.txt src tests
-    WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
+add_test(NAME cppcheck WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
+    COMMAND ${CPPCHECK} --quiet --error-exitcode=1 --std=c++20 --library=qt --suppressions-list=tests/cppcheck-suppressions.txt
+        --enable=warning,style,performance,portability -I src src tests)

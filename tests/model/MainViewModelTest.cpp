@@ -1,6 +1,7 @@
 #include "model/MainViewModel.h"
 #include "fakes/Fakes.h"
 
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
 #include <sys/stat.h>
@@ -396,6 +397,51 @@ private Q_SLOTS:
         QVERIFY(fixture.model->isLoading.value());
         fixture.fakes.system->gate.release(1000);
         QTRY_VERIFY(!fixture.model->isLoading.value());
+    }
+
+    /// ARDEO_ROUNDS is how often, ARDEO_SEED where to start; what is asserted must hold however they
+    /// interleave.
+    void actionsInterleaveAtRandom()
+    {
+        const int rounds = qEnvironmentVariable("ARDEO_ROUNDS", QStringLiteral("50")).toInt();
+        const uint first = qEnvironmentVariable("ARDEO_SEED", QStringLiteral("1")).toUInt();
+        for (uint seed = first; seed < first + static_cast<uint>(rounds); ++seed) {
+            QRandomGenerator random(seed);
+            const auto once = [&](int of) { return random.bounded(of) == 0; };
+            Fixture fixture;
+            FakeSystemConfiguration& system = *fixture.fakes.system;
+            if (once(3))
+                system.refusals[once(2) ? QStringLiteral("commit") : QStringLiteral("lock")] = 1003;
+            MainViewModel& model = *fixture.model;
+            const std::array<std::function<void()>, 7> actions{
+                [&] { model.refreshAdapters(); },
+                [&] { model.loadAdapters(); },
+                [&] { model.applyConfiguration(); },
+                [&] { model.renewDHCPLease(); },
+                [&] { model.setAdapterEnabled(once(2)); },
+                [&] { fixture.fakes.clock->advance(std::chrono::milliseconds(random.bounded(2000))); },
+                [&] {
+                    if (const auto adapters = model.adapters.value(); !adapters.isEmpty())
+                        model.selectAdapter(adapters.at(random.bounded(adapters.size())));
+                }};
+            for (int step = random.bounded(60); step > 0; --step) {
+                actions.at(random.bounded(7U))();
+                if (once(2))
+                    QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+            }
+            if (once(2))
+                continue; // quits amid all of it
+            do {
+                fixture.fakes.clock->advance(10s);
+                QCoro::waitFor(model.refreshAdapters());
+            } while (fixture.fakes.clock->sleepers() > 0 || model.isApplying.value() ||
+                     model.isLoading.value());
+            QVERIFY(fixture.fakes.authorization->live.size() <= 1);
+            QCOMPARE(system.calls.count(QStringLiteral("unlock")),
+                     system.refusals.contains(QStringLiteral("lock"))
+                         ? 0
+                         : system.calls.count(QStringLiteral("lock")));
+        }
     }
 
     void actionsKeepTheModelAlive()
