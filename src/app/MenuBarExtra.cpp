@@ -3,10 +3,8 @@
 #include "platform/linux/X11Desktop.h"
 #include "ui/Symbol.h"
 
-#include <QCoroFuture>
 #include <QCursor>
 #include <QGuiApplication>
-#include <QPointer>
 
 namespace ardeo
 {
@@ -32,16 +30,8 @@ MenuBarExtra::MenuBarExtra(QMenu& menu, AppDelegate& appDelegate, Clock& clock, 
         if (present || hasX11Tray())
             showIcon();
     });
-    showIconAfterAll(clock);
-}
-
-QCoro::Task<> MenuBarExtra::showIconAfterAll(Clock& clock)
-{
     // An icon for X11's tray then waits for that by itself.
-    const QPointer<MenuBarExtra> self(this);
-    co_await clock.sleep(patience);
-    if (self)
-        self->showIcon();
+    clock.sleep(patience).then(this, [this] { showIcon(); });
 }
 
 void MenuBarExtra::showIcon()

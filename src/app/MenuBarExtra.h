@@ -25,7 +25,6 @@ public:
 
 private:
     void showIcon();
-    QCoro::Task<> showIconAfterAll(Clock& clock);
 
     QMenu& m_menu;
     AppDelegate& m_appDelegate;

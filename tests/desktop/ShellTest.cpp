@@ -3,6 +3,7 @@
 #include <QDBusAbstractAdaptor>
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
+#include <QDBusInterface>
 #include <QDBusMessage>
 #include <QDir>
 #include <QElapsedTimer>
@@ -206,6 +207,20 @@ private Q_SLOTS:
         QTRY_VERIFY(!isShown(mainTitle));
         QCOMPARE(QProcess::execute(qEnvironmentVariable("LAB_PROGRAM"), {}), 0);
         QTRY_VERIFY(isShown(mainTitle));
+        // Whoever is on the session bus can do no more than that.
+        const QString application = QStringLiteral("org.ardeo.IPConfig");
+        QDBusInterface interface(application, QStringLiteral("/org/ardeo/IPConfig"),
+                                 QStringLiteral("org.freedesktop.Application"));
+        for (const char* action : {"quit", "Apply"})
+            interface.call(QStringLiteral("ActivateAction"), QLatin1String(action), QVariantList(),
+                           QVariantMap());
+        QCOMPARE(m_program.state(), QProcess::Running);
+        QVERIFY(isEnabledItem("Apply"));
+        QDBusInterface objects(application, QStringLiteral("/"),
+                               QStringLiteral("org.freedesktop.DBus.Introspectable"));
+        const QString below = objects.call(QStringLiteral("Introspect")).arguments().value(0).toString();
+        QCOMPARE(below.count(QStringLiteral("<node name")),
+                 2 + int(below.contains(QStringLiteral("MenuBar"))));
         control('h');
         QTRY_VERIFY(!isOnScreen(mainTitle));
         chooseInMenuBarMenu("Open Ardeo IP Config");
