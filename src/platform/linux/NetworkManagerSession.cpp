@@ -31,7 +31,7 @@ NMClient* NetworkManagerSession::client()
         m_presence = DaemonPresence::absent;
         return nullptr;
     }
-    const auto result =
+    auto result =
         m_loop.call(m_deadline, [&bus](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
             // The permissions of this process are not asked for: that is polkit's to tell, and only when
             // needed.
@@ -40,6 +40,7 @@ NMClient* NetworkManagerSession::client()
                                        NM_CLIENT_INSTANCE_FLAGS_NO_AUTO_FETCH_PERMISSIONS, nullptr);
         });
     m_client.reset(nm_client_new_finish(result.get(), nullptr));
+    result.reset(); // it holds on to the client, too
     if (m_client && nm_client_get_nm_running(m_client.get())) {
         m_presence = DaemonPresence::answers;
         return m_client.get();
