@@ -270,22 +270,38 @@ bool NetworkManagerPreferences::reapply(NMDevice* device)
 SystemStatus NetworkManagerPreferences::activate(NMRemoteConnection* connection, NMDevice* device, bool dhcp)
 {
     NMClient* client = m_session->client();
+    GDBusConnection* bus = nm_client_get_dbus_connection(client);
+    // Not by the library's own call: that waits for the activation to show up, and when the daemon goes away
+    // first, it neither ends nor can be cancelled.
     const auto ended = m_session->loop().call(
         m_session->deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-            nm_client_activate_connection_async(client, NM_CONNECTION(connection), device, nullptr,
-                                                cancellable, done, data);
+            const char* any = "/";
+            g_dbus_connection_call(
+                bus, NM_DBUS_SERVICE, NM_DBUS_PATH, NM_DBUS_INTERFACE, "ActivateConnection",
+                g_variant_new("(ooo)", nm_connection_get_path(NM_CONNECTION(connection)),
+                              device ? nm_object_get_path(NM_OBJECT(device)) : any, any),
+                G_VARIANT_TYPE("(o)"), G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, cancellable, done, data);
         });
     GLibError error;
-    const GRef<NMActiveConnection> active(
-        nm_client_activate_connection_finish(client, ended.get(), error.out()));
-    if (!active)
+    const GVariantRef answer(g_dbus_connection_call_finish(bus, ended.get(), error.out()));
+    if (!answer)
         return statusOf(error);
+    const char* path = nullptr;
+    g_variant_get(answer.get(), "(&o)", &path);
 
     // An address that was set is in force once the activation is complete. A network that is asked for one
     // may take its time, or never answer; there the activation has done its part when it begins to ask, and
     // where a person has to be asked for a secret, when it begins to wait for them.
+    GRef<NMActiveConnection> active;
     bool done = false;
     const bool settled = m_session->loop().runUntil(m_session->deadline(), [&] {
+        if (!nm_client_get_nm_running(client))
+            return true;
+        NMObject* shown = nm_client_get_object_by_path(client, path);
+        if (!active && NM_IS_ACTIVE_CONNECTION(shown))
+            active = newRef(NM_ACTIVE_CONNECTION(shown));
+        if (!active)
+            return false;
         const auto state = nm_active_connection_get_state(active.get());
         done = state == NM_ACTIVE_CONNECTION_STATE_ACTIVATED;
         if (!done && device && nm_device_get_active_connection(device) == active.get()) {
@@ -293,7 +309,7 @@ SystemStatus NetworkManagerPreferences::activate(NMRemoteConnection* connection,
             done = reached == NM_DEVICE_STATE_NEED_AUTH ||
                    (dhcp && reached >= NM_DEVICE_STATE_IP_CONFIG && reached <= NM_DEVICE_STATE_ACTIVATED);
         }
-        return done || state == NM_ACTIVE_CONNECTION_STATE_DEACTIVATED || !nm_client_get_nm_running(client);
+        return done || state == NM_ACTIVE_CONNECTION_STATE_DEACTIVATED;
     });
     if (done)
         return SystemStatus::ok;
