@@ -5,7 +5,6 @@
 #include <QTemporaryDir>
 
 #include <csignal>
-#include <cstdio>
 #include <random>
 #include <sys/mman.h>
 #include <sys/wait.h>
@@ -13,85 +12,62 @@
 
 using namespace ardeo;
 
-namespace
+/// A save, import, rename or delete, which one and of what following from the number and the list alone.
+static void change(NetworkPresetStore& store, unsigned number)
 {
-
-const QString key = QLatin1String(applicationIdentifier) + QStringLiteral(".presets");
-
-/// What the one that is killed tells the one that kills it: the list before and the list after its change.
-struct Announcement {
-    std::atomic<unsigned> count;
-    std::array<std::array<char, 64 * 1024>, 2> lists;
-
-    void announce(const QByteArray& list)
-    {
-        qstrncpy(lists[(count + 1) % 2].data(), list.constData(), lists[0].size());
-        ++count;
-    }
-    bool covers(const QByteArray& list) const { return list == lists[0].data() || list == lists[1].data(); }
-};
-
-/// Saves, renames, deletes and imports until it is killed. A store in memory makes each change first.
-[[noreturn]] void changeForever(const QDir& folder, Announcement& announcement, std::minstd_rand random)
-{
-    FakeUserDefaults memory;
-    FileUserDefaults file(folder);
-    memory.values[key] = file.data(key).value_or("[]");
-    announcement.announce(memory.values[key]);
-    NetworkPresetStore rehearsal(memory);
-    NetworkPresetStore store(file);
-    while (true) {
-        const auto presets = store.presets();
-        NetworkPreset chosen = presets.value(qsizetype(random() % unsigned(presets.size() + 1)));
-        chosen.name = QString::number(random());
-        const QList<NetworkPreset> imported{chosen, {.name = chosen.name}, {}};
-        const auto kind = presets.size() > 50 ? 3 : random() % 3;
-        for (NetworkPresetStore* one : {&rehearsal, &store}) {
-            if (one == &store)
-                announcement.announce(memory.values[key]);
-            if (kind == 0)
-                one->upsert(chosen);
-            else if (kind == 1)
-                one->upsertAll(imported);
-            else if (kind == 2)
-                one->remove(chosen.id);
-            else
-                one->setPresets(presets.first(10));
-        }
-    }
+    const auto& presets = store.presets();
+    const auto made = [&](unsigned id) {
+        return NetworkPreset{.id = QUuid(id, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), .name = QString::number(number)};
+    };
+    NetworkPreset chosen = presets.isEmpty() ? made(0) : presets.at(number % presets.size());
+    chosen.name = QString::number(number);
+    if (number % 4 == 0)
+        store.upsert(made(number % 32));
+    else if (number % 4 == 1)
+        store.upsertAll({made(number % 16), chosen, made(100)});
+    else if (number % 4 == 2)
+        store.upsert(chosen);
+    else
+        store.remove(chosen.id);
 }
-
-} // namespace
 
 /// kill-test [COUNT]: kills a program that changes its profiles that many times, at random moments; what it
 /// leaves is the list before or after the change it was at.
 int main(int, char** arguments)
 {
     const int kills = arguments[1] ? std::atoi(arguments[1]) : 60;
+    const QString key = QLatin1String(applicationIdentifier) + QStringLiteral(".presets");
     const QTemporaryDir folder;
-    auto& shared = *static_cast<Announcement*>(
-        mmap(nullptr, sizeof(Announcement), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+    FileUserDefaults disk(QDir(folder.path()));
+    auto& begun = *static_cast<std::atomic<unsigned>*>(
+        mmap(nullptr, sizeof(unsigned), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     std::minstd_rand random(std::random_device{}());
     unsigned changes = 0;
     for (int kill = 0; kill < kills; ++kill) {
-        shared.count = 0;
+        begun = 0;
+        FakeUserDefaults memory;
+        memory.values[key] = disk.data(key).value_or("[]");
         const pid_t child = fork();
-        if (child == 0)
-            changeForever(QDir(folder.path()), shared, std::minstd_rand(random()));
-        while (shared.count == 0 && waitpid(child, nullptr, WNOHANG) == 0)
-            usleep(100);
+        if (child == 0) {
+            for (NetworkPresetStore store(disk);;)
+                change(store, begun++);
+        }
         usleep(useconds_t(random() % 50'000));
         ::kill(child, SIGKILL);
         int status = 0;
         waitpid(child, &status, 0);
-        const auto list = FileUserDefaults(QDir(folder.path())).data(key).value_or("[]");
-        if (!WIFSIGNALED(status) || !decodePresets(list) || !shared.covers(list)) {
-            std::printf("kill %d, change %u: %s\n", kill, unsigned(shared.count), list.constData());
-            return 1;
+        NetworkPresetStore rehearsal(memory);
+        QByteArray before = memory.values[key];
+        for (unsigned number = 0; number < begun; ++number) {
+            before = memory.values[key];
+            change(rehearsal, number);
         }
-        changes += shared.count - 1;
+        const QByteArray found = disk.data(key).value_or("[]");
+        if (!WIFSIGNALED(status) || !decodePresets(found) || (found != before && found != memory.values[key]))
+            qFatal("kill %d, change %u: %s", kill, unsigned(begun), found.constData());
+        changes += begun;
     }
-    const auto left = QDir(folder.path()).entryList(QDir::Files).size() - 1;
-    std::printf("%d kills in %u changes, %d unfinished files left\n", kills, changes, int(left));
+    const auto unfinished = QDir(folder.path()).entryList(QDir::Files).size() - 1;
+    qInfo("%d kills in %u changes, %d unfinished files left", kills, changes, int(unfinished));
     return 0;
 }
