@@ -22,14 +22,14 @@ void quit()
     QApplication::exit();
 }
 
-void AppDelegate::applicationDidFinishLaunching()
+void AppDelegate::applicationDidFinishLaunching() const
 {
     QApplication::setQuitOnLastWindowClosed(applicationShouldTerminateAfterLastWindowClosed());
     if (mainWindow)
         mainWindow->show();
 }
 
-void AppDelegate::showMainWindow()
+void AppDelegate::showMainWindow() const
 {
     if (mainWindow)
         bringToFront(*mainWindow);

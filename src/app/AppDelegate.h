@@ -19,16 +19,16 @@ public:
     std::function<bool()> hasMenuBarExtra = [] { return false; };
 
     /// Shows the program as one with windows.
-    void applicationDidFinishLaunching();
-    bool applicationShouldTerminateAfterLastWindowClosed() const { return false; }
+    void applicationDidFinishLaunching() const;
+    static bool applicationShouldTerminateAfterLastWindowClosed() { return false; }
 
     /// Brings the main window to the front, from wherever it is.
-    void showMainWindow();
+    void showMainWindow() const;
     /// Takes the main window off the screen and the program out of the task switcher. On a desktop that has
     /// no place for the menu bar icon the window is minimised instead, and the first time this says why.
     void hideMainWindow();
     /// Minimises all windows of the program.
-    void hide();
+    static void hide();
 
 private:
     bool m_hasExplained = false;

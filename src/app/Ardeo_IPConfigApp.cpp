@@ -67,7 +67,6 @@ void Ardeo_IPConfigApp::setUpMainWindow()
     m_mainWindow.setWindowTitle(QStringLiteral("Ardeo IP Config"));
     fillWindow(m_mainWindow, content);
     m_mainWindow.setMenuBar(makeMainMenu({.vm = *vm,
-                                          .appDelegate = appDelegate,
                                           .notifications = notifications,
                                           .workspace = *m_platform.workspace,
                                           .showAboutPanel = [this] { showAboutPanel(); }}));

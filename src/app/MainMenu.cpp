@@ -39,7 +39,6 @@ QString loginItemTitle(bool isLoginItem)
 QMenuBar* makeMainMenu(const MainMenuTargets& targets)
 {
     MainViewModel& vm = targets.vm;
-    AppDelegate& appDelegate = targets.appDelegate;
     auto* bar = new QMenuBar;
 
     QMenu* application = bar->addMenu(QStringLiteral("&Ardeo IP Config"));
@@ -50,8 +49,7 @@ QMenuBar* makeMainMenu(const MainMenuTargets& targets)
         loginItem, [&vm] { return loginItemTitle(vm.isLoginItem.value()); },
         [loginItem](const QString& title) { loginItem->setText(title); });
     application->addSeparator();
-    addCommand(application, "Hide Ardeo IP Config", {Qt::CTRL | Qt::Key_H},
-               [&appDelegate] { appDelegate.hide(); });
+    addCommand(application, "Hide Ardeo IP Config", {Qt::CTRL | Qt::Key_H}, &AppDelegate::hide);
     application->addSeparator();
     addCommand(application, "Quit Ardeo IP Config", {Qt::CTRL | Qt::Key_Q}, &quit);
 

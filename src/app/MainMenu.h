@@ -12,7 +12,6 @@ namespace ardeo
 /// What the commands of the main menu work on; all of it outlives the menu.
 struct MainMenuTargets {
     MainViewModel& vm;
-    AppDelegate& appDelegate;
     NotificationCenter& notifications;
     Workspace& workspace;
     std::function<void()> showAboutPanel;

@@ -17,7 +17,7 @@ class MenuBarMenuView final : public QMenu
     Q_OBJECT
 
 public:
-    MenuBarMenuView(MainViewModel& vm, AppDelegate& appDelegate, NotificationCenter& notifications,
+    MenuBarMenuView(MainViewModel& model, AppDelegate& appDelegate, NotificationCenter& notifications,
                     Platform& platform);
 
 private:

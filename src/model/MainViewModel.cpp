@@ -267,7 +267,7 @@ void MainViewModel::savePreset(const Text& name)
     });
 }
 
-bool MainViewModel::exportPresets()
+bool MainViewModel::exportPresets() const
 {
     const auto place = m_platform.filePanels->askWhereToSave(
         QStringLiteral("Ardeo IP Config.profiles"), QStringLiteral("Export Ardeo IP Config profiles"));

@@ -83,7 +83,7 @@ public:
     /// Saves the form as a new profile of the selected service; does nothing where none is selected.
     void savePreset(const Text& name);
     /// Writes all profiles to a file that the user chooses; false when that fails. Cancelling is no failure.
-    bool exportPresets();
+    bool exportPresets() const;
     /// Merges the profiles of a file that the user chooses into the list, by their ids.
     void importPresets();
     /// Has the program start when the user logs in, or no longer.

@@ -24,7 +24,7 @@ public:
     /// Opens a window of the application by its identifier.
     using OpenWindow = std::function<void(const QString& id)>;
 
-    ContentView(MainViewModel& vm, Clock& clock, NotificationCenter& notifications, OpenWindow openWindow,
+    ContentView(MainViewModel& model, Clock& clock, NotificationCenter& notifications, OpenWindow openWindow,
                 QWidget* parent = nullptr);
 
 protected:

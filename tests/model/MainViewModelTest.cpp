@@ -323,9 +323,9 @@ private Q_SLOTS:
         QElapsedTimer time;
         time.start();
         for (const QByteArray& bad :
-             {QByteArray(), QByteArray("{}"), QByteArray("[{}]"), with("\"router\":\"\",", ""),
-              with("\"router\":\"\"", "\"router\":null"), with("\"router\":\"\"", "\"router\":1"),
-              with("\"DHCP\"", "\"dhcp\""), QByteArray(100'000'000, '\0')}) {
+             {QByteArray(), QByteArray("{}"), QByteArray("[{}]"), with(R"("router":"",)", ""),
+              with(R"("router":"")", R"("router":null)"), with(R"("router":"")", R"("router":1)"),
+              with(R"("DHCP")", R"("dhcp")"), QByteArray(100'000'000, '\0')}) {
             model.applyError = std::nullopt;
             file(bad);
             model.importPresets();
@@ -343,7 +343,7 @@ private Q_SLOTS:
         QVERIFY(time.elapsed() < 5'000);
         model.applyError = std::nullopt;
         for (const QByteArray& fine :
-             {good, QByteArray("\xEF\xBB\xBF") + good, with("[{", "[{\"extra\":[1],"),
+             {good, QByteArray("\xEF\xBB\xBF") + good, with("[{", R"([{"extra":[1],)"),
               with(lowerCaseId.toUpper(), lowerCaseId)}) {
             model.presetStore.setPresets({});
             file(fine);
