@@ -7,6 +7,7 @@
 #include "ui/IPAddressField.h"
 
 #include <QApplication>
+#include <QDirIterator>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -22,6 +23,12 @@ void promise(bool kept)
         qFatal("A promise is broken.");
 }
 
+/// Texts that mean something, and the keys of the dictionaries.
+const QStringList words =
+    QStringLiteral(" . 7 DHCP Manual 10.0.0.2 10.2.3.4 255.255.0.0 ConfigMethod Addresses SubnetMasks Router "
+                   "ServerAddresses ServerAddress SearchDomains Active Speed Duplex")
+        .split(u' ');
+
 /// Makes values of the bytes of an input; past its end there are zeros.
 class Invention
 {
@@ -30,15 +37,14 @@ public:
     bool atEnd() const { return m_at >= m_input.size(); }
     /// A number below the limit, which is at most 256.
     int number(int limit) { return static_cast<uchar>(m_input.mid(m_at++, 1).append('\0').front()) % limit; }
-    QString oneOf(const QStringList& texts) { return texts.at(number(static_cast<int>(texts.size()))); }
+    QString word() { return words.at(number(static_cast<int>(words.size()))); }
     QString text()
     {
-        const int kind = number(3);
-        QString text =
-            kind == 0 ? oneOf(QStringLiteral(" . 7 DHCP Manual 10.0.0.2 10.2.3.4 255.255.0.0").split(u' '))
-                      : QString();
-        for (int left = kind * number(6); left > 0; --left) // any unit at all, halves of pairs too
-            text += QChar(static_cast<char16_t>(number(256) + (kind == 2 ? number(256) * 256 : 0)));
+        if (number(2) == 0)
+            return word();
+        QString text;
+        for (int left = number(6); left > 0; --left) // any unit at all, halves of pairs too
+            text += QChar(static_cast<char16_t>(number(2) * number(256) * 256 + number(256)));
         return text;
     }
     std::optional<QString> maybeText() { return number(8) > 0 ? std::optional(text()) : std::nullopt; }
@@ -59,13 +65,9 @@ public:
     }
     Dictionary dictionary(int depth = 3)
     {
-        static const QStringList keys =
-            QStringLiteral("ConfigMethod Addresses SubnetMasks Router ServerAddresses "
-                           "ServerAddress SearchDomains Active Speed Duplex")
-                .split(u' ');
         Dictionary dictionary;
         for (int left = number(8); left > 0; --left)
-            dictionary.insert(oneOf(keys), value(depth));
+            dictionary.insert(word(), value(depth));
         return dictionary;
     }
 
@@ -126,16 +128,18 @@ void dictionaries(const QByteArray& input)
     system.services.emplace();
     system.computerName = invention.maybeText();
     for (int left = invention.number(4); left > 0; --left) {
-        FakeSystemConfiguration::Service made{.name = invention.maybeText(), .id = invention.maybeText()};
-        made.interface = {invention.maybeText(), invention.maybeText(), invention.maybeText()};
+        FakeSystemConfiguration::Service made{.name = invention.maybeText(), .id = invention.text()};
+        made.interface = {invention.text(), invention.maybeText(), invention.maybeText()};
         for (auto& protocol : made.protocols)
             protocol = invention.value();
+        const QString state = QStringLiteral("State:/Network/Service/%1/").arg(*made.id);
         const QString interface =
-            QStringLiteral("State:/Network/Interface/") + made.interface->bsdName.value_or(QString());
-        for (const QString& key :
-             {QStringLiteral("State:/Network/Service/%1/IPv4").arg(made.id.value_or(QString())),
-              interface + QStringLiteral("/Link"), interface + QStringLiteral("/DHCP")})
-            system.state[key] = invention.value();
+            QStringLiteral("State:/Network/Interface/%1/").arg(*made.interface->bsdName);
+        system.state[state + QStringLiteral("IPv4")] = invention.value();
+        system.state[interface + QStringLiteral("Link")] = invention.value();
+        system.state[interface + QStringLiteral("DHCP")] = invention.value();
+        if (invention.number(4) == 0)
+            made.id = made.interface->bsdName = std::nullopt;
         system.services->append(made);
     }
     const QList<AdapterInfo> adapters = service.listAdapters().result();
@@ -184,13 +188,10 @@ void octets(const QByteArray& input)
 
 extern "C" int LLVMFuzzerTestOneInput(const uchar* data, size_t size)
 {
-    static const QMap<QString, void (*)(const QByteArray&)> targets{
-        {QStringLiteral("profiles"), profiles},
-        {QStringLiteral("machine"), machine},
-        {QStringLiteral("dictionaries"), dictionaries},
-        {QStringLiteral("octets"), octets}};
-    static const auto target = targets.value(qEnvironmentVariable("FUZZ_TARGET"));
-    target(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
+    const QByteArray input(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    static const std::map<QByteArray, void (*)(const QByteArray&)> targets{
+        {"profiles", profiles}, {"machine", machine}, {"dictionaries", dictionaries}, {"octets", octets}};
+    targets.at(qgetenv("FUZZ_TARGET"))(input);
     return 0;
 }
 
@@ -198,10 +199,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uchar* data, size_t size)
 /// Gives the target every file of a folder, where there is no libFuzzer to invent some.
 int main(int, char** arguments)
 {
-    const QDir folder(QString::fromLocal8Bit(arguments[1]));
-    promise(!folder.isEmpty());
-    for (const QString& name : folder.entryList(QDir::Files)) {
-        QFile file(folder.filePath(name));
+    QDirIterator files(QString::fromLocal8Bit(arguments[1]), QDir::Files);
+    promise(files.hasNext());
+    while (files.hasNext()) {
+        QFile file(files.next());
         promise(file.open(QIODevice::ReadOnly));
         qInfo("%s", qUtf8Printable(file.fileName()));
         const QByteArray input = file.readAll();
