@@ -1,0 +1,63 @@
+// Does what it is told on standard input, one line each, on this computer's NetworkManager, as the programs
+// do it, and answers each with a line: how long it took in milliseconds, measured here, and what came out.
+//   list                                lists the services (their number)
+//   dhcp SERVICE                        applies DHCP and returns when it has been written, before the model's
+//   static SERVICE ADDRESS MASK ROUTER  scheduled look at the network; the same with a manual address
+
+#include "backend/AuthorizationService.h"
+#include "backend/Errors.h"
+#include "backend/NetworkConfigService.h"
+#include "platform/linux/LinuxPlatform.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+#include <cstdio>
+#include <iostream>
+
+using namespace ardeo;
+
+namespace
+{
+
+QString perform(NetworkConfigService& service, AuthorizationService& authorization, const QStringList& words)
+{
+    if (words.at(0) == QStringLiteral("list"))
+        return QString::number(service.listAdapters().result().size());
+    NetworkAdapterInfo wanted;
+    if (words.at(0) == QStringLiteral("static")) {
+        wanted.ipv4Mode = IPv4Mode::manual;
+        wanted.ipAddress = words.at(2);
+        wanted.subnetMask = words.at(3);
+        wanted.router = words.at(4);
+    }
+    try {
+        service
+            .writeConfiguration(words.at(1), wanted, authorization.authorize(),
+                                NetworkConfigService::DNSHandling::replace)
+            .waitForFinished();
+    } catch (const DescribedError& error) {
+        return error.errorDescription();
+    }
+    return QStringLiteral("done");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    Platform platform = linuxPlatform(QCoreApplication::applicationFilePath());
+    NetworkConfigService service(*platform.systemConfiguration);
+    AuthorizationService authorization(*platform.authorization);
+    for (std::string line; std::getline(std::cin, line);) {
+        const QStringList words = QString::fromStdString(line).split(u'\t');
+        QElapsedTimer timer;
+        timer.start();
+        const QString outcome = perform(service, authorization, words);
+        std::printf("%.3f %s\n", static_cast<double>(timer.nsecsElapsed()) / 1e6, qPrintable(outcome));
+        std::fflush(stdout);
+    }
+    std::fflush(stdout);
+    std::_Exit(0);
+}
