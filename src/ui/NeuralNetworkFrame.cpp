@@ -14,6 +14,15 @@
 // each blur is narrowed by what the resampling around it blurs by itself. The glows are smooth and drawn on
 // the coarse grid to begin with.
 
+// The work on whole planes is compiled twice: for every processor of the kind, and for those that take eight
+// samples at once. The latter matters for more than that. Qt's painting leaves the upper halves of the wide
+// registers in use, and with these some processors run narrow instructions four times slower.
+#if defined(__x86_64__) && defined(__GLIBC__) && !defined(__SANITIZE_THREAD__)
+#define ARDEO_WIDE [[gnu::target_clones("arch=x86-64-v3", "default")]]
+#else
+#define ARDEO_WIDE
+#endif
+
 namespace ardeo
 {
 
@@ -132,9 +141,9 @@ inline float transmittance(float depth)
 
 /// One row of the picture: across by the four expanded rows, then to 8 bits.
 template <bool withDots>
-void writeRow(std::uint32_t* __restrict out, int from, int to, const std::array<const float*, 4>& links,
-              const std::array<const float*, 4>& dots, const std::array<float, 4>& weights,
-              const Palette& palette)
+[[gnu::always_inline]] inline void
+writeRow(std::uint32_t* __restrict out, int from, int to, const std::array<const float*, 4>& links,
+         const std::array<const float*, 4>& dots, const std::array<float, 4>& weights, const Palette& palette)
 {
     const float* const l0 = links[0];
     const float* const l1 = links[1];
@@ -390,7 +399,7 @@ void NeuralNetworkRenderer::drawLine(Plane& plane, const LineProfiles& profiles,
 }
 
 /// Leaves the transmittance of all glows in the coarse plane.
-void NeuralNetworkRenderer::drawGlows(const std::vector<QPointF>& positions, double maxDist)
+ARDEO_WIDE void NeuralNetworkRenderer::drawGlows(const std::vector<QPointF>& positions, double maxDist)
 {
     // One blur for all links: their optical depths add up, and for one link depth and opacity are nearly the
     // same. What the depth has more is proportional to the square of the profile; the constant gives it on
@@ -433,7 +442,7 @@ float NeuralNetworkRenderer::glowTransmittance(double squareDistance) const
 }
 
 /// Adds the lines to the fine plane.
-void NeuralNetworkRenderer::drawLines(const std::vector<QPointF>& positions, double maxDist)
+ARDEO_WIDE void NeuralNetworkRenderer::drawLines(const std::vector<QPointF>& positions, double maxDist)
 {
     Plane& plane = m_needsFinest ? m_finest : m_fine;
     const LineProfiles& profiles = m_needsFinest ? m_finestLineProfiles : m_lineProfiles;
@@ -456,7 +465,7 @@ void NeuralNetworkRenderer::drawLines(const std::vector<QPointF>& positions, dou
 }
 
 /// The dots take part in the order of the nodes: the few pixels they touch are composed anew, node by node.
-void NeuralNetworkRenderer::drawDots(const std::vector<QPointF>& positions)
+ARDEO_WIDE void NeuralNetworkRenderer::drawDots(const std::vector<QPointF>& positions)
 {
     m_dots.fill(0);
     std::fill(m_dotBlocks.begin(), m_dotBlocks.end(), std::uint8_t{0});
@@ -526,7 +535,7 @@ void NeuralNetworkRenderer::drawDotPixel(int x, int y, float weight)
                     std::uint8_t{1});
 }
 
-void NeuralNetworkRenderer::blur(Plane& plane, const Kernel& kernel)
+ARDEO_WIDE void NeuralNetworkRenderer::blur(Plane& plane, const Kernel& kernel)
 {
     constexpr int reach = static_cast<int>(std::tuple_size_v<Kernel>) - 1;
     const int begin = reach - Plane::margin;
@@ -551,7 +560,7 @@ void NeuralNetworkRenderer::blur(Plane& plane, const Kernel& kernel)
 }
 
 /// Brings the coarse plane to the fine one, linearly.
-void NeuralNetworkRenderer::refine()
+ARDEO_WIDE void NeuralNetworkRenderer::refine()
 {
     const int columns = m_coarse.columns();
     float* __restrict const line = m_line.data() + 1;
@@ -569,7 +578,7 @@ void NeuralNetworkRenderer::refine()
 }
 
 /// Brings the opacity of the fine plane to the coarse one. The canvas ends at its edges.
-void NeuralNetworkRenderer::coarsen()
+ARDEO_WIDE void NeuralNetworkRenderer::coarsen()
 {
     const double width = m_pixels.width() / m_scale;
     const double height = m_pixels.height() / m_scale;
@@ -609,7 +618,7 @@ void NeuralNetworkRenderer::coarsen()
 }
 
 /// Brings the coarse planes to device pixels, by cubic splines.
-void NeuralNetworkRenderer::write(QImage& image, ColorScheme scheme)
+ARDEO_WIDE void NeuralNetworkRenderer::write(QImage& image, ColorScheme scheme)
 {
     const Palette& palette = scheme == ColorScheme::dark ? darkPalette : lightPalette;
     const int width = image.width();
