@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QWindow>
 
+#include <array>
+
 namespace ardeo
 {
 
@@ -18,6 +20,36 @@ constexpr int tickMilliseconds = 33;
 constexpr int coveredTicks = 8;
 /// By how much the backdrop is smaller than the view.
 constexpr int backdropScale = 24;
+
+/// The image in a small size, each pixel the average of what it stands for. Qt's own smooth scaling spreads
+/// over a pool of threads, and waking them takes longer than this.
+QImage averaged(const QImage& image, QSize size)
+{
+    QImage small(size, QImage::Format_ARGB32_Premultiplied);
+    for (int row = 0; row < size.height(); ++row) {
+        const int top = row * image.height() / size.height();
+        const int bottom = (row + 1) * image.height() / size.height();
+        for (int column = 0; column < size.width(); ++column) {
+            const int left = column * image.width() / size.width();
+            const int right = (column + 1) * image.width() / size.width();
+            std::array<quint32, 4> sums{};
+            for (int y = top; y < bottom; ++y) {
+                const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+                for (int x = left; x < right; ++x) {
+                    sums[0] += line[x] & 0xFF;
+                    sums[1] += line[x] >> 8 & 0xFF;
+                    sums[2] += line[x] >> 16 & 0xFF;
+                    sums[3] += line[x] >> 24;
+                }
+            }
+            const auto count = static_cast<quint32>(qMax(1, (bottom - top) * (right - left)));
+            for (quint32& sum : sums)
+                sum = (sum + count / 2) / count;
+            small.setPixel(column, row, sums[3] << 24 | sums[2] << 16 | sums[1] << 8 | sums[0]);
+        }
+    }
+    return small;
+}
 
 } // namespace
 
@@ -76,7 +108,7 @@ void NeuralNetworkBackground::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) {
         startOrStop();
-        draw();
+        forgetFrame();
         update();
     }
     QWidget::changeEvent(event);
@@ -84,42 +116,44 @@ void NeuralNetworkBackground::changeEvent(QEvent* event)
 
 void NeuralNetworkBackground::resizeEvent(QResizeEvent*)
 {
-    draw();
+    forgetFrame();
 }
 
 void NeuralNetworkBackground::timerEvent(QTimerEvent*)
 {
     m_time = m_clock.referenceTime();
-    draw();
+    forgetFrame();
     ++m_ticks;
     update(m_ticks % coveredTicks == 0 ? QRegion(rect()) : QRegion(rect()) - m_covered());
 }
 
-void NeuralNetworkBackground::draw()
+void NeuralNetworkBackground::forgetFrame()
 {
-    m_frame =
-        m_renderer.render(size(), m_time, look::schemeOf(this), m_maxDist, m_speed, devicePixelRatioF());
+    m_frame = {};
     m_backdrop = {};
+}
+
+const QImage& NeuralNetworkBackground::frame()
+{
+    if (m_frame.isNull() || m_frame.devicePixelRatio() != devicePixelRatioF())
+        m_frame =
+            m_renderer.render(size(), m_time, look::schemeOf(this), m_maxDist, m_speed, devicePixelRatioF());
+    return m_frame;
 }
 
 const QImage& NeuralNetworkBackground::backdrop()
 {
-    if (m_backdrop.isNull() && !m_frame.isNull()) {
-        m_backdrop = m_frame.scaled(qMax(1, width() / backdropScale), qMax(1, height() / backdropScale),
-                                    Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        m_backdrop.setDevicePixelRatio(1);
-    }
+    if (m_backdrop.isNull() && !frame().isNull())
+        m_backdrop = averaged(m_frame, {qMax(1, width() / backdropScale), qMax(1, height() / backdropScale)});
     return m_backdrop;
 }
 
 void NeuralNetworkBackground::paintEvent(QPaintEvent* event)
 {
-    if (m_frame.devicePixelRatio() != devicePixelRatioF())
-        draw();
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.fillRect(event->rect(), look::colours(this).window);
-    painter.drawImage(QPointF(), m_frame);
+    painter.drawImage(QPointF(), frame());
 }
 
 } // namespace ardeo

@@ -38,7 +38,9 @@ protected:
 
 private:
     void startOrStop();
-    void draw();
+    /// Frames are drawn when they are looked at: at the start a window changes its size and looks many times.
+    void forgetFrame();
+    const QImage& frame();
 
     Clock& m_clock;
     double m_maxDist;
