@@ -5,6 +5,8 @@
 #include <QMap>
 #include <QSemaphore>
 
+#include <atomic>
+
 namespace ardeo
 {
 
@@ -35,24 +37,27 @@ public:
     QMap<QString, qint32> refusals;
     QStringList calls;
     AuthorizationRef authorization;
-    /// Reads wait for it; a test that takes it all stalls them.
+    /// Every operation waits for it; a test that takes it all stalls them.
     QSemaphore gate{1000};
+    /// Whether one gave up because the gate stayed closed: whoever was to open it was waiting itself.
+    std::atomic<bool> gaveUp = false;
 
     std::unique_ptr<Preferences> createPreferences(const QString& name) override
     {
-        gate.acquire();
-        gate.release();
+        pass();
         return preferencesAvailable ? std::make_unique<FakePreferences>(*this, name) : nullptr;
     }
     std::unique_ptr<Preferences> createPreferencesWithAuthorization(const QString& name,
                                                                     AuthorizationRef reference) override
     {
+        pass();
         authorization = reference;
         calls << QStringLiteral("open");
         return preferencesAvailable ? std::make_unique<FakePreferences>(*this, name) : nullptr;
     }
     std::unique_ptr<DynamicStore> createDynamicStore(const QString&) override
     {
+        pass();
         return stateAvailable ? std::make_unique<FakeState>(*this) : nullptr;
     }
     qint32 error() const override { return m_status; }
@@ -145,6 +150,14 @@ private:
         std::optional<QString> computerName() override { return system.computerName; }
         FakeSystemConfiguration& system;
     };
+
+    void pass()
+    {
+        if (gate.tryAcquire(1, 20'000))
+            gate.release();
+        else
+            gaveUp = true;
+    }
 
     bool step(const QString& name)
     {

@@ -4,6 +4,8 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <functional>
 #include <sys/stat.h>
 
 using namespace ardeo;
@@ -385,18 +387,34 @@ private Q_SLOTS:
                                           QStringLiteral("register")}));
     }
 
-    void stalledSystemLeavesTheMainThreadFree()
+    void noActionWaitsForTheSystemOnTheMainThread()
     {
         Fixture fixture;
-        fixture.fakes.system->gate.acquire(1000);
-        fixture.model->loadAdapters();
-        bool ran = false;
-        QMetaObject::invokeMethod(
-            qApp, [&ran] { ran = true; }, Qt::QueuedConnection);
-        QTRY_VERIFY(ran);
-        QVERIFY(fixture.model->isLoading.value());
-        fixture.fakes.system->gate.release(1000);
-        QTRY_VERIFY(!fixture.model->isLoading.value());
+        MainViewModel& model = *fixture.model;
+        QCoro::waitFor(model.loadAdapters());
+        const auto busy = [&model] { return model.isLoading.value() || model.isApplying.value(); };
+        const std::function<QCoro::Task<>()> actions[]{
+            [&] { return model.loadAdapters(); },
+            [&] { return model.refreshAdapters(); },
+            [&] { return model.selectAdapter(model.adapters.value().last()); },
+            [&] { return model.applyConfiguration(); },
+            [&] { return model.renewDHCPLease(); },
+            [&] { return model.setAdapterEnabled(false); },
+        };
+        for (const auto& action : actions) {
+            fixture.fakes.system->gate.acquire(1000);
+            action(); // comes back although the system does not answer
+            bool turned = false;
+            QMetaObject::invokeMethod(
+                qApp, [&turned] { turned = true; }, Qt::QueuedConnection);
+            QTRY_VERIFY(turned);
+            QVERIFY(busy() && !fixture.fakes.system->gaveUp);
+            fixture.fakes.system->gate.release(1000);
+            QVERIFY(QTest::qWaitFor([&] {
+                fixture.fakes.clock->advance(10s);
+                return !busy();
+            }));
+        }
     }
 
     /// ARDEO_ROUNDS is how often, ARDEO_SEED where to start; what is asserted must hold however they
