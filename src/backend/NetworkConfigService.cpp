@@ -152,16 +152,23 @@ std::optional<AdapterInfo> makeAdapterInfo(const NetworkService& service, Dynami
     return adapter;
 }
 
-QList<AdapterInfo> readAdapters(SystemConfiguration& system)
+/// What a read has opened. It is released when the result has been handed over already: that takes a system
+/// with many services a while, and nobody has to wait for it.
+struct Opened {
+    std::unique_ptr<Preferences> preferences;
+    std::unique_ptr<DynamicStore> state;
+};
+
+QList<AdapterInfo> readAdapters(SystemConfiguration& system, Opened& opened)
 {
-    const auto preferences = system.createPreferences(clientName);
-    const auto services = servicesOf(preferences.get());
+    opened.preferences = system.createPreferences(clientName);
+    const auto services = servicesOf(opened.preferences.get());
     if (!services)
         return {};
-    const auto state = system.createDynamicStore(clientName);
+    opened.state = system.createDynamicStore(clientName);
     QList<AdapterInfo> adapters;
     for (const auto& service : *services) {
-        if (auto adapter = makeAdapterInfo(*service, state.get()))
+        if (auto adapter = makeAdapterInfo(*service, opened.state.get()))
             adapters.append(std::move(*adapter));
     }
     std::ranges::stable_sort(adapters, [](const AdapterInfo& a, const AdapterInfo& b) {
@@ -191,14 +198,15 @@ void readDNS(NetworkAdapterInfo& configuration, const Dictionary& dictionary)
         configuration.searchDomains.append(domain);
 }
 
-NetworkAdapterInfo readConfiguration(SystemConfiguration& system, const Text& serviceName)
+NetworkAdapterInfo readConfiguration(SystemConfiguration& system, const Text& serviceName, Opened& opened)
 {
     NetworkAdapterInfo configuration;
-    const auto state = system.createDynamicStore(clientName);
+    opened.state = system.createDynamicStore(clientName);
+    DynamicStore* const state = opened.state.get();
     if (state)
         configuration.computerName = state->computerName().value_or(QString());
-    const auto preferences = system.createPreferences(clientName);
-    const auto service = serviceNamed(servicesOf(preferences.get()), serviceName);
+    opened.preferences = system.createPreferences(clientName);
+    const auto service = serviceNamed(servicesOf(opened.preferences.get()), serviceName);
     const auto serviceID = service ? service->serviceID() : std::nullopt;
     if (!serviceID)
         return configuration;
@@ -211,10 +219,10 @@ NetworkAdapterInfo readConfiguration(SystemConfiguration& system, const Text& se
         readAddresses(configuration, *ipv4);
     }
     if (configuration.ipv4Mode == IPv4Mode::dhcp) {
-        if (const auto live = serviceState(state.get(), serviceID))
+        if (const auto live = serviceState(state, serviceID))
             readAddresses(configuration, *live);
     }
-    if (const auto lease = interfaceState(state.get(), bsdName, QStringLiteral("/DHCP")))
+    if (const auto lease = interfaceState(state, bsdName, QStringLiteral("/DHCP")))
         configuration.dhcpServer = textIn(*lease, QStringLiteral("ServerAddress")).value_or(Text());
     if (const auto dns = configurationOf(*service, dnsType))
         readDNS(configuration, *dns);
@@ -297,16 +305,17 @@ NetworkConfigService::~NetworkConfigService()
 template <typename Operation>
 auto NetworkConfigService::run(Operation operation)
 {
-    using Result = decltype(operation());
+    using Result = std::invoke_result_t<Operation, Opened&>;
     auto promise = std::make_shared<QPromise<Result>>();
     QFuture<Result> future = promise->future();
     promise->start();
     m_thread.start([promise, operation = std::move(operation)] {
+        Opened opened;
         try {
             if constexpr (std::is_void_v<Result>)
-                operation();
+                operation(opened);
             else
-                promise->addResult(operation());
+                promise->addResult(operation(opened));
         } catch (...) {
             promise->setException(std::current_exception());
         }
@@ -317,19 +326,20 @@ auto NetworkConfigService::run(Operation operation)
 
 QFuture<QList<AdapterInfo>> NetworkConfigService::listAdapters()
 {
-    return run([this] { return readAdapters(m_system); });
+    return run([this](Opened& opened) { return readAdapters(m_system, opened); });
 }
 
 QFuture<NetworkAdapterInfo> NetworkConfigService::currentConfig(const Text& serviceName)
 {
-    return run([this, serviceName] { return readConfiguration(m_system, serviceName); });
+    return run(
+        [this, serviceName](Opened& opened) { return readConfiguration(m_system, serviceName, opened); });
 }
 
 QFuture<void> NetworkConfigService::writeConfiguration(const Text& serviceName,
                                                        const NetworkAdapterInfo& configuration,
                                                        AuthorizationRef authorization, DNSHandling dns)
 {
-    return run([this, serviceName, configuration, authorization, dns] {
+    return run([this, serviceName, configuration, authorization, dns](Opened&) {
         changeService(m_system, serviceName, authorization, [&](const NetworkService& service) {
             const auto ipv4Protocol = service.protocol(ipv4Type);
             if (!ipv4Protocol)
@@ -345,7 +355,7 @@ QFuture<void> NetworkConfigService::writeConfiguration(const Text& serviceName,
 QFuture<void> NetworkConfigService::setServiceEnabled(bool enabled, const Text& serviceName,
                                                       AuthorizationRef authorization)
 {
-    return run([this, enabled, serviceName, authorization] {
+    return run([this, enabled, serviceName, authorization](Opened&) {
         changeService(m_system, serviceName, authorization,
                       [enabled](NetworkService& service) { service.setEnabled(enabled); });
     });

@@ -12,7 +12,8 @@ namespace ardeo
 
 /// The only part that touches the system's network configuration. Its operations run one after the other on a
 /// thread of its own, so that their blocking calls never hold up the caller; the futures finish there. Each
-/// operation opens what it needs of the system and releases it before it ends: nothing is cached.
+/// operation opens what it needs of the system, and has released it before the next one begins: nothing is
+/// cached.
 class NetworkConfigService
 {
 public:
@@ -22,7 +23,7 @@ public:
     explicit NetworkConfigService(SystemConfiguration& system);
     NetworkConfigService(const NetworkConfigService&) = delete;
     NetworkConfigService& operator=(const NetworkConfigService&) = delete;
-    /// Waits for the operation that is running.
+    /// Waits for the operation that is running, and for what it has to release.
     ~NetworkConfigService();
 
     /// The services of the current set, active ones first, then by name. Empty when they cannot be read.

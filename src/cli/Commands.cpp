@@ -23,23 +23,23 @@ struct Failure {
 
 [[noreturn]] void fail(const QString& error)
 {
-    throw Failure{{.status = 1, .output = {}, .error = error}};
+    throw Failure{{.status = 1, .output = {}, .error = error, .remains = {}}};
 }
 
 [[noreturn]] void failUsage(const QString& error)
 {
-    throw Failure{{.status = 2, .output = {}, .error = error}};
+    throw Failure{{.status = 2, .output = {}, .error = error, .remains = {}}};
 }
 
 /// One command on its way through the model.
 class Run
 {
 public:
-    Run(const Arguments& arguments, Platform& platform, bool colour)
+    Run(const Arguments& arguments, Platform& platform, bool colour, std::shared_ptr<MainViewModel> model)
         : m_arguments(arguments)
         , m_platform(platform)
         , m_colour(colour)
-        , m_model(MainViewModel::create(platform))
+        , m_model(std::move(model))
     {
     }
 
@@ -230,11 +230,15 @@ QByteArray outputOf(const Arguments& arguments, Run run)
 
 Outcome runCommand(const Arguments& arguments, Platform& platform, bool colour)
 {
+    const auto model = MainViewModel::create(platform);
+    Outcome outcome;
     try {
-        return {.status = 0, .output = outputOf(arguments, Run(arguments, platform, colour)), .error = {}};
+        outcome.output = outputOf(arguments, Run(arguments, platform, colour, model));
     } catch (const Failure& failure) {
-        return failure.outcome;
+        outcome = failure.outcome;
     }
+    outcome.remains = model;
+    return outcome;
 }
 
 } // namespace ardeo

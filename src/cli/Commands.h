@@ -12,6 +12,9 @@ struct Outcome {
     QByteArray output;
     /// One line for standard error, without the line break.
     QString error;
+    /// What the command has worked with. To clear it away can take long, which a program that ends anyway
+    /// need not wait for.
+    std::shared_ptr<void> remains;
 };
 
 /// Runs a command on the platform and returns when it has ended.

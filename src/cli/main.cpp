@@ -19,21 +19,22 @@ QString windowProgram()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/ardeo-ip-config");
 }
 
-Outcome outcomeOf(const QStringList& commandLine, bool colour)
+/// Leaves the platform that the command ran on in platform.
+Outcome outcomeOf(const QStringList& commandLine, bool colour, std::optional<Platform>& platform)
 {
     const auto parsed = parseArguments(commandLine);
     if (const auto* wrong = std::get_if<UsageError>(&parsed))
-        return {.status = 2, .output = {}, .error = wrong->message};
+        return {.status = 2, .output = {}, .error = wrong->message, .remains = {}};
     const auto& arguments = std::get<Arguments>(parsed);
     if (arguments.command == Arguments::Command::help)
-        return {.status = 0, .output = helpText().toUtf8(), .error = {}};
-    Platform platform = platformFor(arguments.system, arguments.stateFile, windowProgram());
+        return {.status = 0, .output = helpText().toUtf8(), .error = {}, .remains = {}};
+    platform = platformFor(arguments.system, arguments.stateFile, windowProgram());
     if (arguments.command == Arguments::Command::version) {
         const QString text =
-            QStringLiteral("ardeoctl %1 on %2\n").arg(QStringLiteral(ARDEO_VERSION), platform.description);
-        return {.status = 0, .output = text.toUtf8(), .error = {}};
+            QStringLiteral("ardeoctl %1 on %2\n").arg(QStringLiteral(ARDEO_VERSION), platform->description);
+        return {.status = 0, .output = text.toUtf8(), .error = {}, .remains = {}};
     }
-    return runCommand(arguments, platform, colour);
+    return runCommand(arguments, *platform, colour);
 }
 
 } // namespace
@@ -42,12 +43,13 @@ int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     const bool colour = isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR");
-    const Outcome outcome = outcomeOf(QCoreApplication::arguments(), colour);
+    std::optional<Platform> platform;
+    const Outcome outcome = outcomeOf(QCoreApplication::arguments(), colour, platform);
     if (!outcome.error.isEmpty())
         std::fprintf(stderr, "%s\n", outcome.error.toUtf8().constData());
     std::fwrite(outcome.output.constData(), 1, static_cast<size_t>(outcome.output.size()), stdout);
     const bool written = std::fflush(stdout) == 0;
-    // The model has a look at the network scheduled for three seconds after a change; nobody waits for it
-    // here.
+    // The model has a look at the network scheduled for three seconds after a change, and clears away what it
+    // has read; nobody waits for either here.
     std::_Exit(written ? outcome.status : 1);
 }
