@@ -219,7 +219,7 @@ NeuralNetworkRenderer::LineProfiles::LineProfiles(Profile profile, double width)
             Samples samples;
             double sum = 0;
             for (std::size_t i = 0; i < samples.size(); ++i) {
-                const auto distance = static_cast<double>(i) - 1 - (phase + 0.5) / phases;
+                const double distance = static_cast<double>(i) - 1 - (phase + 0.5) / phases;
                 samples[i] = static_cast<float>(profile(distance, slope, width));
                 sum += samples[i];
             }

@@ -93,8 +93,7 @@ void profiles(const QByteArray& input)
 /// Any bytes as the simulated machine's file: what the backend changes of it stays a machine.
 void machine(const QByteArray& input)
 {
-    static const QTemporaryDir folder(
-        QStringLiteral("/dev/shm/machine-XXXXXX")); // no disk: it is about speed
+    static const QTemporaryDir folder;
     static const SimulatedMachine machine(folder.filePath(QStringLiteral("machine.json")));
     static SimulatedConfiguration system(machine);
     static NetworkConfigService service(system);
