@@ -17,7 +17,7 @@
 // The work on whole planes is compiled twice: for every processor of the kind, and for those that take eight
 // samples at once. The latter matters for more than that. Qt's painting leaves the upper halves of the wide
 // registers in use, and with these some processors run narrow instructions four times slower.
-#if defined(__x86_64__) && defined(__GLIBC__) && !defined(__SANITIZE_THREAD__)
+#if defined(__x86_64__) && defined(__GLIBC__) && !defined(__SANITIZE_THREAD__) && !defined(__clang__)
 #define ARDEO_WIDE [[gnu::target_clones("arch=x86-64-v3", "default")]]
 #else
 #define ARDEO_WIDE
@@ -113,7 +113,8 @@ double dotCoverage(double x, double y)
 
 /// Calls with each pair of nodes that are linked, and the opacity of the link.
 template <typename Draw>
-void forEachLink(const std::vector<QPointF>& positions, double maxDist, Draw draw)
+[[gnu::always_inline]] inline void forEachLink(const std::vector<QPointF>& positions, double maxDist,
+                                               Draw draw)
 {
     for (std::size_t i = 0; i < positions.size(); ++i) {
         for (std::size_t j = i + 1; j < positions.size(); ++j) {
@@ -366,8 +367,8 @@ void NeuralNetworkRenderer::prepare(QSize pixels, double scale)
 
 /// Steps along the main direction of a line, one sample at a time; the points count in samples of the plane.
 template <typename Combine>
-void NeuralNetworkRenderer::drawLine(Plane& plane, const LineProfiles& profiles, QPointF from, QPointF to,
-                                     Combine combine)
+[[gnu::always_inline]] inline void NeuralNetworkRenderer::drawLine(Plane& plane, const LineProfiles& profiles,
+                                                                   QPointF from, QPointF to, Combine combine)
 {
     const bool steep = std::abs(to.y() - from.y()) > std::abs(to.x() - from.x());
     const std::ptrdiff_t across = steep ? 1 : plane.stride();
