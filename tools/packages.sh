@@ -3,11 +3,12 @@
 build_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev libqt6svg6-dev qcoro-qt6-dev nlohmann-json3-dev libnm-dev libpolkit-gobject-1-dev
+    librsvg2-bin gzip dpkg-dev file
 )
 test_packages=(
     clang-format network-manager polkitd dnsmasq-base dbus dbus-bin iproute2 util-linux bsdutils
     libatspi2.0-dev at-spi2-core xvfb openbox fonts-dejavu-core xdotool trayer desktop-file-utils
-    python3-dbus python3-gi clang-tidy cppcheck
+    python3-dbus python3-gi appstream man-db clang-tidy cppcheck
 )
 fuzzing_packages=(clang libclang-rt-14-dev)
 screenshot_packages=(fonts-inter fonts-dejavu-core)
