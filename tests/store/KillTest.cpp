@@ -39,6 +39,7 @@ int main(int, char** arguments)
     const QString key = QLatin1String(applicationIdentifier) + QStringLiteral(".presets");
     const QTemporaryDir folder;
     FileUserDefaults disk(QDir(folder.path()));
+    // cppcheck-suppress variableScope ; one mapping serves all that are killed
     auto& begun = *static_cast<std::atomic<unsigned>*>(
         mmap(nullptr, sizeof(unsigned), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     std::minstd_rand random(std::random_device{}());
