@@ -1,6 +1,7 @@
 #include "SampleProfiles.h"
 #include "app/Ardeo_IPConfigApp.h"
 #include "platform/linux/BootTimeClock.h"
+#include "platform/linux/DesktopWorkspace.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "ui/IPAddressField.h"
 #include "ui/PresetList.h"
@@ -20,7 +21,6 @@ struct Window {
     explicit Window(qsizetype profiles)
     {
         model->presetStore.setPresets(sampleProfiles(profiles));
-        setUpMainWindow(window, new ContentView(*model, *platform.clock));
         window.show();
         window.activateWindow();
         settle();
@@ -35,10 +35,18 @@ struct Window {
         QCoreApplication::processEvents();
     }
     QTemporaryDir folder;
-    Platform platform =
-        simulatedPlatform(folder.filePath(QStringLiteral("machine.json")), std::make_unique<BootTimeClock>());
-    std::shared_ptr<MainViewModel> model = MainViewModel::create(platform);
-    QWidget window;
+    Platform platform = platformIn(folder);
+    Ardeo_IPConfigApp app{platform};
+    std::shared_ptr<MainViewModel> model = app.vm;
+    QWidget& window = *app.appDelegate.mainWindow;
+
+    static Platform platformIn(const QTemporaryDir& folder)
+    {
+        Platform platform = simulatedPlatform(folder.filePath(QStringLiteral("machine.json")),
+                                              std::make_unique<BootTimeClock>());
+        platform.workspace = std::make_unique<DesktopWorkspace>();
+        return platform;
+    }
 };
 
 /// Presses keys and waits for what they led to on the screen.

@@ -11,6 +11,9 @@ test_packages=(
     python3-dbus python3-gi appstream man-db clang-tidy cppcheck
 )
 fuzzing_packages=(clang libclang-rt-14-dev)
+benchmark_packages=(
+    libbenchmark-dev network-manager-gnome nm-tray trayer python3-xlib python3-gi gir1.2-atspi-2.0
+)
 screenshot_packages=(fonts-inter fonts-dejavu-core)
 
 # need_packages PACKAGE...: returns when all of them are installed; ends the script when that cannot be had.

@@ -31,5 +31,5 @@ add_test(NAME clang-tidy COMMAND ${CMAKE_COMMAND} --build ${CMAKE_BINARY_DIR} --
 set_tests_properties(clang-tidy PROPERTIES PROCESSORS 2)
 
 add_test(NAME cppcheck WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
-    COMMAND ${CPPCHECK} --quiet --error-exitcode=1 --std=c++20 --library=qt --suppressions-list=tests/cppcheck-suppressions.txt
+    COMMAND ${CPPCHECK} --quiet --inline-suppr --error-exitcode=1 --std=c++20 --library=qt --suppressions-list=tests/cppcheck-suppressions.txt
         --enable=warning,style,performance,portability -I src src tests)

@@ -302,7 +302,7 @@ private Q_SLOTS:
         choose("Apply");
         QElapsedTimer time;
         time.start();
-        QVERIFY(activate(find(ATSPI_ROLE_MENU_ITEM, "Quit Ardeo IP Config", true)));
+        activate(find(ATSPI_ROLE_MENU_ITEM, "Quit Ardeo IP Config", true)); // ends before it can answer
         QVERIFY(m_program.waitForFinished());
         QVERIFY(time.elapsed() < 1'000);
         const QString method =
