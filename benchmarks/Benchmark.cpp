@@ -6,6 +6,7 @@
 #include <QApplication>
 
 #include <benchmark/benchmark.h>
+#include <cstdio>
 #include <cstdlib>
 
 int main(int argc, char** argv)

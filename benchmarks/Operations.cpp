@@ -1,8 +1,9 @@
-// Does what it is told on standard input, one line each, on this computer's NetworkManager, as the programs
-// do it, and answers each with a line: how long it took in milliseconds, measured here, and what came out.
-//   list                                lists the services (their number)
-//   dhcp SERVICE                        applies DHCP and returns when it has been written, before the model's
-//   static SERVICE ADDRESS MASK ROUTER  scheduled look at the network; the same with a manual address
+// Works on this computer's NetworkManager as the programs do, without their windows: does what each line of
+// standard input says, its words separated by tabs, and answers with how long that took in milliseconds and
+// with what came of it.
+//   list                                  the number of services
+//   dhcp    SERVICE                       "done", or why not; so does
+//   static  SERVICE ADDRESS MASK ROUTER
 
 #include "backend/AuthorizationService.h"
 #include "backend/Errors.h"
