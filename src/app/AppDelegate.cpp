@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QWindow>
 
+#include <malloc.h>
+
 namespace ardeo
 {
 
@@ -41,6 +43,7 @@ void AppDelegate::hideMainWindow()
         return;
     if (hasMenuBarExtra()) {
         mainWindow->hide();
+        malloc_trim(0); // what the window has freed would stay ours otherwise, maybe for days
         return;
     }
     mainWindow->showMinimized();

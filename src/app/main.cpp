@@ -5,15 +5,23 @@
 #include "platform/linux/DesktopApplication.h"
 #include "platform/linux/DesktopWorkspace.h"
 #include "platform/linux/SystemChoice.h"
+#include "ui/Symbol.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QIcon>
 
 #include <cstdio>
 #include <cstdlib>
 
 using namespace ardeo;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+constexpr auto settlingTime = 100ms;
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -60,7 +68,6 @@ int main(int argc, char** argv)
     }
     platform.filePanels = std::make_unique<DesktopFilePanels>();
     platform.workspace = std::make_unique<DesktopWorkspace>();
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/org.ardeo.IPConfig.svg")));
 
     const Appearance appearance;
     Ardeo_IPConfigApp app(platform);
@@ -68,10 +75,16 @@ int main(int argc, char** argv)
                      [&app] { app.appDelegate.showMainWindow(); });
     app.appDelegate.applicationDidFinishLaunching();
 
-    MenuBarMenuView menu(*app.vm, app.appDelegate, app.notifications, platform);
-    const MenuBarExtra menuBarExtra(menu, app.appDelegate, *platform.clock,
-                                    QStringLiteral("Ardeo IP Config on %1").arg(platform.description));
-    app.appDelegate.hasMenuBarExtra = [&menuBarExtra] { return menuBarExtra.isPresent(); };
+    // What the first window does not need waits until that is up.
+    std::optional<MenuBarMenuView> menu;
+    std::optional<MenuBarExtra> menuBarExtra;
+    platform.clock->sleep(settlingTime).then(&application, [&] {
+        QApplication::setWindowIcon(applicationIcon());
+        menu.emplace(*app.vm, app.appDelegate, app.notifications, platform);
+        menuBarExtra.emplace(*menu, app.appDelegate, *platform.clock,
+                             QStringLiteral("Ardeo IP Config on %1").arg(platform.description));
+        app.appDelegate.hasMenuBarExtra = [&menuBarExtra] { return menuBarExtra->isPresent(); };
+    });
     const int status = QApplication::exec();
     // Every change has been saved when it was made, and an operation that still runs must not hold up the
     // end.

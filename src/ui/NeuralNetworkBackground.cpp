@@ -92,6 +92,9 @@ void NeuralNetworkBackground::showEvent(QShowEvent*)
 void NeuralNetworkBackground::hideEvent(QHideEvent*)
 {
     startOrStop();
+    // Nobody sees it, maybe for days.
+    forgetFrame();
+    m_renderer.reset();
 }
 
 bool NeuralNetworkBackground::eventFilter(QObject* watched, QEvent* event)
@@ -135,9 +138,12 @@ void NeuralNetworkBackground::forgetFrame()
 
 const QImage& NeuralNetworkBackground::frame()
 {
-    if (m_frame.isNull() || m_frame.devicePixelRatio() != devicePixelRatioF())
+    if (m_frame.isNull() || m_frame.devicePixelRatio() != devicePixelRatioF()) {
+        if (!m_renderer)
+            m_renderer.emplace();
         m_frame =
-            m_renderer.render(size(), m_time, look::schemeOf(this), m_maxDist, m_speed, devicePixelRatioF());
+            m_renderer->render(size(), m_time, look::schemeOf(this), m_maxDist, m_speed, devicePixelRatioF());
+    }
     return m_frame;
 }
 

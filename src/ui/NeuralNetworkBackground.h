@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 namespace ardeo
 {
@@ -46,7 +47,7 @@ private:
     double m_maxDist;
     double m_speed;
     std::function<QRegion()> m_covered = [] { return QRegion(); };
-    NeuralNetworkRenderer m_renderer;
+    std::optional<NeuralNetworkRenderer> m_renderer;
     QImage m_frame;
     QImage m_backdrop;
     double m_time = 0;

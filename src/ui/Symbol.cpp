@@ -76,4 +76,19 @@ QIcon symbolIcon(const QString& name, const QColor& colour)
     return QIcon(new SymbolEngine(name, colour));
 }
 
+QIcon applicationIcon()
+{
+    // Drawn here: an icon made from the file would load every plugin that reads pictures.
+    QSvgRenderer drawing(QStringLiteral(":/icons/org.ardeo.IPConfig.svg"));
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        drawing.render(&painter, pixmap.rect());
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
 } // namespace ardeo

@@ -9,6 +9,7 @@
 #include "ui/IPAddressField.h"
 #include "ui/PresetList.h"
 #include "ui/PushButton.h"
+#include "ui/Symbol.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -297,7 +298,7 @@ int main(int argc, char** argv)
     font.setPixelSize(13);
     QApplication::setFont(font);
     QApplication::setStyle(new ArdeoStyle);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/org.ardeo.IPConfig.svg")));
+    QApplication::setWindowIcon(applicationIcon());
 
     const qreal scale = qApp->devicePixelRatio();
     const QString scaled = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);
