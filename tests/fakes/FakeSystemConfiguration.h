@@ -10,6 +10,8 @@
 namespace ardeo
 {
 
+using namespace Qt::StringLiterals;
+
 /// A system configuration made of plain values. It writes down the calls that matter in their order, and
 /// refuses any step with any status; every other call resets the status, as the real library does.
 class FakeSystemConfiguration final : public SystemConfiguration
@@ -23,8 +25,8 @@ public:
         bool enabled = true;
         std::optional<Interface> interface {
         };
-        QMap<QString, std::optional<QVariant>> protocols = {{QStringLiteral("IPv4"), std::nullopt},
-                                                            {QStringLiteral("DNS"), std::nullopt}};
+        QMap<QString, std::optional<QVariant>> protocols = {{u"IPv4"_s, std::nullopt},
+                                                            {u"DNS"_s, std::nullopt}};
     };
 
     bool preferencesAvailable = true;
@@ -32,7 +34,7 @@ public:
     bool stateAvailable = true;
     std::optional<QList<Service>> services = QList<Service>();
     QMap<QString, QVariant> state;
-    std::optional<QString> computerName = QStringLiteral("Test Machine");
+    std::optional<QString> computerName = u"Test Machine"_s;
     /// Step ("lock", "commit", "apply") and the status that it is refused with.
     QMap<QString, qint32> refusals;
     QStringList calls;
@@ -52,7 +54,7 @@ public:
     {
         pass();
         authorization = reference;
-        calls << QStringLiteral("open");
+        calls << u"open"_s;
         return preferencesAvailable ? std::make_unique<FakePreferences>(*this, name) : nullptr;
     }
     std::unique_ptr<DynamicStore> createDynamicStore(const QString&) override
@@ -74,7 +76,7 @@ private:
         bool setConfiguration(const Dictionary& dictionary) override
         {
             value = dictionary;
-            return system.step(QStringLiteral("set ") + name);
+            return system.step(u"set "_s + name);
         }
         FakeSystemConfiguration& system;
         std::optional<QVariant>& value;
@@ -95,7 +97,7 @@ private:
         bool setEnabled(bool enabled) override
         {
             service.enabled = enabled;
-            return system.step(QStringLiteral("enable"));
+            return system.step(u"enable"_s);
         }
         std::shared_ptr<NetworkInterface> interface() const override
         {
@@ -126,19 +128,16 @@ private:
     struct FakePreferences final : Preferences {
         FakePreferences(FakeSystemConfiguration& owner, const QString& name) : system(owner)
         {
-            Q_ASSERT(name == QStringLiteral("Ardeo-IPConfig"));
+            Q_ASSERT(name == u"Ardeo-IPConfig"_s);
         }
         std::shared_ptr<NetworkSet> currentSet() override
         {
             return system.setAvailable ? std::make_shared<FakeSet>(system) : nullptr;
         }
-        bool lock(bool wait) override
-        {
-            return system.step(wait ? QStringLiteral("lock") : QStringLiteral("try lock"));
-        }
-        bool commitChanges() override { return system.step(QStringLiteral("commit")); }
-        bool applyChanges() override { return system.step(QStringLiteral("apply")); }
-        bool unlock() override { return system.step(QStringLiteral("unlock")); }
+        bool lock(bool wait) override { return system.step(wait ? u"lock"_s : u"try lock"_s); }
+        bool commitChanges() override { return system.step(u"commit"_s); }
+        bool applyChanges() override { return system.step(u"apply"_s); }
+        bool unlock() override { return system.step(u"unlock"_s); }
         FakeSystemConfiguration& system;
     };
     struct FakeState final : DynamicStore {

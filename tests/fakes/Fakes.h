@@ -3,6 +3,7 @@
 #include "fakes/FakeSystemConfiguration.h"
 #include "platform/Platform.h"
 
+#include <QCoreApplication>
 #include <QPromise>
 
 namespace ardeo
@@ -41,6 +42,18 @@ private:
     QList<Sleeper> m_sleepers;
 };
 
+/// Lets go of the object and returns when those who still hold it, all waiting for the clock, have done so
+/// too.
+template <typename Object>
+void letGo(std::shared_ptr<Object>& object, FakeClock& clock)
+{
+    for (const std::weak_ptr<Object> alive = std::exchange(object, nullptr); !alive.expired();) {
+        clock.advance(std::chrono::seconds(10));
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
 class FakeAuthorization final : public Authorization
 {
 public:
@@ -61,7 +74,7 @@ public:
     {
         ++prompts;
         flags = asked;
-        return granted && right == QStringLiteral("system.preferences.network");
+        return granted && right == u"system.preferences.network"_s;
     }
     void free(AuthorizationRef reference, quint32) override { live.removeOne(reference.handle); }
 
@@ -97,13 +110,13 @@ public:
     Status next = Status::enabled;
     QStringList calls;
     Status status() const override { return current; }
-    std::optional<QString> registerItem() override { return take(QStringLiteral("register")); }
-    std::optional<QString> unregisterItem() override { return take(QStringLiteral("unregister")); }
+    std::optional<QString> registerItem() override { return take("register"); }
+    std::optional<QString> unregisterItem() override { return take("unregister"); }
 
 private:
-    std::optional<QString> take(const QString& call)
+    std::optional<QString> take(const char* call)
     {
-        calls.append(call);
+        calls.append(QLatin1String(call));
         current = next;
         return failure;
     }
@@ -118,16 +131,11 @@ public:
     std::optional<QString> askWhatToOpen(const QString&) override { return place; }
 };
 
-/// Remembers what it was asked to open.
+/// Opens everything, and nothing.
 class FakeWorkspace final : public Workspace
 {
 public:
-    QList<SystemTool> opened;
-    bool open(SystemTool tool) override
-    {
-        opened.append(tool);
-        return true;
-    }
+    bool open(SystemTool) override { return true; }
 };
 
 /// A platform of fakes, and each of them.
@@ -138,15 +146,14 @@ struct FakePlatform {
     FakeUserDefaults* userDefaults = new FakeUserDefaults;
     FakeClock* clock = new FakeClock;
     FakeFilePanels* filePanels = new FakeFilePanels;
-    FakeWorkspace* workspace = new FakeWorkspace;
     Platform platform{std::unique_ptr<SystemConfiguration>(system),
                       std::unique_ptr<Authorization>(authorization),
                       std::unique_ptr<LoginItem>(loginItem),
                       std::unique_ptr<UserDefaults>(userDefaults),
                       std::unique_ptr<Clock>(clock),
                       std::unique_ptr<FilePanels>(filePanels),
-                      std::unique_ptr<Workspace>(workspace),
-                      QStringLiteral("fakes")};
+                      std::make_unique<FakeWorkspace>(),
+                      u"fakes"_s};
 };
 
 } // namespace ardeo

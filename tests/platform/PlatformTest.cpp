@@ -15,6 +15,7 @@
 #include <unistd.h>
 
 using namespace ardeo;
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 class PlatformTest : public QObject
@@ -22,74 +23,57 @@ class PlatformTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void settingsAreChecked_data()
-    {
-        QTest::addColumn<QString>("address");
-        QTest::addColumn<QString>("mask");
-        QTest::addColumn<QString>("router");
-        QTest::addColumn<QString>("server");
-        QTest::addColumn<bool>("accepted");
-        const auto row = [](const char* address, const char* mask, const char* router, const char* server,
-                            bool accepted) {
-            QTest::addRow("%s %s %s %s", address, mask, router, server)
-                << QString::fromLatin1(address) << QString::fromLatin1(mask) << QString::fromLatin1(router)
-                << QString::fromLatin1(server) << accepted;
-        };
-        row("10.0.0.2", "255.255.255.0", "10.0.0.1", "8.8.8.8", true);
-        row("10.0.0.2", "255.255.255.255", "...", "...", true);
-        row("10.0.0.2", "128.0.0.0", "", "127.0.0.1", true);
-        row("300.1.1.1", "255.0.0.0", "", "8.8.8.8", false);
-        row("abc", "255.0.0.0", "", "8.8.8.8", false);
-        row("", "255.0.0.0", "", "8.8.8.8", false);
-        row("...", "255.0.0.0", "", "8.8.8.8", false);
-        row("10.0.0", "255.0.0.0", "", "8.8.8.8", false);
-        row("10.0.0.02", "255.0.0.0", "", "8.8.8.8", false);
-        row("0.0.0.0", "255.0.0.0", "", "8.8.8.8", false);
-        row("224.0.0.1", "255.0.0.0", "", "8.8.8.8", false);
-        row("10.0.0.2", "255.0.255.0", "", "8.8.8.8", false);
-        row("10.0.0.2", "0.0.0.0", "", "8.8.8.8", false);
-        row("10.0.0.2", "...", "", "8.8.8.8", false);
-        row("10.0.0.2", "255.0.0.0", "10.0.", "8.8.8.8", false);
-        row("10.0.0.2", "255.0.0.0", "", "fe80::1", false);
-        row("10.0.0.2", "255.0.0.0", "", "8.8.8", false);
-    }
     void settingsAreChecked()
     {
-        QFETCH(QString, address);
-        QFETCH(QString, mask);
-        QFETCH(QString, router);
-        QFETCH(QString, server);
-        const bool ipv4 = checkedIPv4({{QStringLiteral("ConfigMethod"), QStringLiteral("Manual")},
-                                       {QStringLiteral("Addresses"), QStringList(address)},
-                                       {QStringLiteral("SubnetMasks"), QStringList(mask)},
-                                       {QStringLiteral("Router"), router}})
-                              .has_value();
-        const bool dns = checkedDNS({{QStringLiteral("ServerAddresses"), QStringList(server)}}).has_value();
-        QTEST(ipv4 && dns, "accepted");
-        QVERIFY(!checkedDNS(
-            {{QStringLiteral("SearchDomains"), QStringList(QStringLiteral("a\nnameserver 6.6.6.6"))}}));
+        const struct {
+            bool accepted;
+            const char *address, *mask, *router = "", *server = "8.8.8.8";
+        } rows[]{{true, "10.0.0.2", "255.255.255.0", "10.0.0.1"},
+                 {true, "10.0.0.2", "255.255.255.255", "...", "..."},
+                 {true, "10.0.0.2", "128.0.0.0", "", "127.0.0.1"},
+                 {false, "300.1.1.1", "255.0.0.0"},
+                 {false, "abc", "255.0.0.0"},
+                 {false, "", "255.0.0.0"},
+                 {false, "...", "255.0.0.0"},
+                 {false, "10.0.0", "255.0.0.0"},
+                 {false, "10.0.0.02", "255.0.0.0"},
+                 {false, "0.0.0.0", "255.0.0.0"},
+                 {false, "224.0.0.1", "255.0.0.0"},
+                 {false, "10.0.0.2", "255.0.255.0"},
+                 {false, "10.0.0.2", "0.0.0.0"},
+                 {false, "10.0.0.2", "..."},
+                 {false, "10.0.0.2", "255.0.0.0", "10.0."},
+                 {false, "10.0.0.2", "255.0.0.0", "", "fe80::1"},
+                 {false, "10.0.0.2", "255.0.0.0", "", "8.8.8"}};
+        for (const auto& row : rows) {
+            const auto list = [](const char* text) { return QStringList(QLatin1String(text)); };
+            const auto ipv4 = checkedIPv4({{u"ConfigMethod"_s, u"Manual"_s},
+                                           {u"Addresses"_s, list(row.address)},
+                                           {u"SubnetMasks"_s, list(row.mask)},
+                                           {u"Router"_s, QLatin1String(row.router)}});
+            const auto dns = checkedDNS({{u"ServerAddresses"_s, list(row.server)}});
+            QVERIFY2((ipv4 && dns) == row.accepted, row.address);
+        }
+        QVERIFY(!checkedDNS({{u"SearchDomains"_s, QStringList(u"a\nnameserver 6.6.6.6"_s)}}));
     }
 
-    void userDefaultsKeepOneFilePerKey()
+    void userDefaultsKeepWhatTheyAreGiven()
     {
         const QTemporaryDir folder;
-        const QDir place(folder.filePath(QStringLiteral("new/place")));
-        const QString key = QStringLiteral("key");
+        const QDir place(folder.filePath(u"new/place"_s));
         FileUserDefaults defaults(place);
-        QVERIFY(!defaults.data(key));
-        defaults.set(QByteArray("a\0b", 3), key);
-        QCOMPARE(FileUserDefaults(place).data(key), QByteArray("a\0b", 3));
-        QCOMPARE(QFile::permissions(place.filePath(key)) & (QFile::ReadGroup | QFile::ReadOther),
-                 QFile::Permissions());
-        defaults.set({}, key);
-        QCOMPARE(defaults.data(key), QByteArray());
+        QVERIFY(!defaults.data(u"key"_s));
+        for (const QByteArray& data : {QByteArray("a\0b", 3), QByteArray()}) {
+            defaults.set(data, u"key"_s);
+            QCOMPARE(FileUserDefaults(place).data(u"key"_s), data);
+        }
     }
 
     void whatCannotBeStoredIsToldOnceAndLeavesWhatIsThere()
     {
         const QTemporaryDir place;
         const QDir folder(place.path());
-        const QString key = QStringLiteral("key");
+        const QString key = u"key"_s;
         FileUserDefaults(folder).set("old", key);
         chmod(QFile::encodeName(folder.filePath(key)).constData(), 0444);
         const auto told = [&](const auto& hinder) {
@@ -100,7 +84,7 @@ private Q_SLOTS:
             defaults.set("newer", key);
             defaults.set("newest", key);
             hinder(false);
-            return sentences.replace(QStringLiteral("Your profiles could not be saved: "), QString());
+            return sentences.replace(u"Your profiles could not be saved: "_s, QString());
         };
         std::signal(SIGXFSZ, SIG_IGN);
         const auto full = [](bool now) {
@@ -111,19 +95,19 @@ private Q_SLOTS:
             chmod(QFile::encodeName(folder.path()).constData(), now ? 0555 : 0700);
             QVERIFY(seteuid(now && getuid() == 0 ? 65534 : getuid()) == 0);
         };
-        QCOMPARE(told(full), QStringLiteral("File too large."));
-        QCOMPARE(told(readOnly), QStringLiteral("Permission denied."));
+        QCOMPARE(told(full), u"File too large."_s);
+        QCOMPARE(told(readOnly), u"Permission denied."_s);
         QCOMPARE(FileUserDefaults(folder).data(key), QByteArray("old"));
         QCOMPARE(folder.entryList(QDir::Files), QStringList(key));
         QVERIFY(QFile::remove(folder.filePath(key)) && folder.mkdir(key));
-        QCOMPARE(told([](bool) {}), QStringLiteral("those stored before cannot be read."));
+        QCOMPARE(told([](bool) {}), u"those stored before cannot be read."_s);
     }
 
     void nobodyElsesFileIsWrittenOrReadableThroughOurs()
     {
         const QTemporaryDir folder;
         const auto place = [&](const char* name) { return folder.filePath(QLatin1String(name)); };
-        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("machine.defaults")));
+        QVERIFY(QDir(folder.path()).mkdir(u"machine.defaults"_s));
         const QStringList links{place("machine"), place("machine.defaults/key"), place("machine.login-item"),
                                 place("machine.lock")};
         for (const QString& link : links)
@@ -131,13 +115,13 @@ private Q_SLOTS:
         Platform platform = simulatedPlatform(place("machine"), std::make_unique<BootTimeClock>());
         QVERIFY(!QFile::exists(place("victim")));
         FileUserDefaults victim(QDir(folder.path()));
-        victim.set("theirs", QStringLiteral("victim"));
-        platform.userDefaults->set("own", QStringLiteral("key"));
+        victim.set("theirs", u"victim"_s);
+        platform.userDefaults->set("own", u"key"_s);
         QVERIFY(!platform.loginItem->registerItem());
         const auto preferences =
             platform.systemConfiguration->createPreferencesWithAuthorization({}, AuthorizationRef{1});
         QVERIFY(!preferences->lock(true)); // a link is not taken for the lock
-        QCOMPARE(victim.data(QStringLiteral("victim")), QByteArray("theirs"));
+        QCOMPARE(victim.data(u"victim"_s), QByteArray("theirs"));
         QVERIFY(QFile::remove(links.last()) && preferences->lock(true));
         for (const QString& file : links) {
             struct stat found {
@@ -150,10 +134,10 @@ private Q_SLOTS:
     void loginItemIsAnAutostartEntry()
     {
         const QTemporaryDir folder;
-        const QString program = QStringLiteral("/opt/a b/50%/$x\\\"y\"");
-        XdgLoginItem item(QDir(folder.filePath(QStringLiteral("autostart"))), program);
+        const QString program = u"/opt/a b/50%/$x\\\"y\""_s;
+        XdgLoginItem item(QDir(folder.filePath(u"autostart"_s)), program);
         const QString entry =
-            folder.filePath(QStringLiteral("autostart/%1.desktop").arg(QLatin1String(applicationIdentifier)));
+            folder.filePath(u"autostart/%1.desktop"_s.arg(QLatin1String(applicationIdentifier)));
         QCOMPARE(item.status(), LoginItem::Status::notRegistered);
         QVERIFY(item.unregisterItem());
         QVERIFY(!item.registerItem());
