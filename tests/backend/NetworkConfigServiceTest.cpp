@@ -10,22 +10,22 @@ using Service = FakeSystemConfiguration::Service;
 namespace
 {
 
-const QString addresses = QStringLiteral("Addresses");
-const QString masks = QStringLiteral("SubnetMasks");
-const QString router = QStringLiteral("Router");
-const QString method = QStringLiteral("ConfigMethod");
-const QString servers = QStringLiteral("ServerAddresses");
-const QString domains = QStringLiteral("SearchDomains");
-const QString wifiState = QStringLiteral("State:/Network/Service/ID/IPv4");
-const QString wifiLink = QStringLiteral("State:/Network/Interface/wlan0/Link");
-const QString wifiLease = QStringLiteral("State:/Network/Interface/wlan0/DHCP");
+const QString addresses = u"Addresses"_s;
+const QString masks = u"SubnetMasks"_s;
+const QString router = u"Router"_s;
+const QString method = u"ConfigMethod"_s;
+const QString servers = u"ServerAddresses"_s;
+const QString domains = u"SearchDomains"_s;
+const QString wifiState = u"State:/Network/Service/ID/IPv4"_s;
+const QString wifiLink = u"State:/Network/Interface/wlan0/Link"_s;
+const QString wifiLease = u"State:/Network/Interface/wlan0/DHCP"_s;
 
 Service wifi()
 {
-    return {.name = QStringLiteral("Wi-Fi"),
-            .id = QStringLiteral("ID"),
+    return {.name = u"Wi-Fi"_s,
+            .id = u"ID"_s,
             .enabled = true,
-            .interface = {{QStringLiteral("wlan0"), QStringLiteral("02:00"), QStringLiteral("Card")}}};
+            .interface = {{u"wlan0"_s, u"02:00"_s, u"Card"_s}}};
 }
 
 Service named(const char* name)
@@ -58,17 +58,16 @@ private Q_SLOTS:
         twin.enabled = false;
         system.services = {named("iPhone USB"), named("Wi-Fi"), named("Éth"), named("Ethernet"), twin,
                            Service{},           wifi()};
-        system.state[wifiState] = Dictionary{{addresses, QStringList(QStringLiteral("10.0.0.2"))}};
+        system.state[wifiState] = Dictionary{{addresses, QStringList(u"10.0.0.2"_s)}};
         NetworkConfigService service(system);
         QStringList listed;
         const auto adapters = service.listAdapters().result();
         for (const AdapterInfo& adapter : adapters)
             listed << adapter.serviceName;
-        QCOMPARE(listed, (QStringList{QStringLiteral("Wi-Fi"), QStringLiteral("Ethernet"),
-                                      QStringLiteral("Wi-Fi"), QStringLiteral("iPhone USB"),
-                                      QStringLiteral("Éth"), QStringLiteral("E\u0301th")}));
+        QCOMPARE(listed, (QStringList{u"Wi-Fi"_s, u"Ethernet"_s, u"Wi-Fi"_s, u"iPhone USB"_s, u"Éth"_s,
+                                      u"E\u0301th"_s}));
         QVERIFY(adapters.first().isActive);
-        QCOMPARE(adapters.first().macAddress, Text(QStringLiteral("02:00")));
+        QCOMPARE(adapters.first().macAddress, Text(u"02:00"_s));
         QVERIFY(adapters[4].isEnabled && !adapters[5].isEnabled);
         QVERIFY(adapters[1].hardwareName.isEmpty() && !adapters[1].bsdName && !adapters[1].macAddress);
     }
@@ -94,25 +93,20 @@ private Q_SLOTS:
         QTest::addColumn<QVariant>("link");
         QTest::addColumn<QString>("read");
         const auto row = [](const char* name, const QVariant& live, const QVariant& link, const char* read) {
-            QTest::newRow(name) << live << link << QString::fromLatin1(read);
+            QTest::newRow(name) << live << link << QString(QLatin1String(read));
         };
-        const QString active = QStringLiteral("Active");
-        const QString speed = QStringLiteral("Speed");
-        const QString duplex = QStringLiteral("Duplex");
-        const QVariantMap up{{active, true}, {speed, 1000}, {duplex, false}};
-        row("all there", QVariantMap{{addresses, QVariantList{QStringLiteral("1.2.3.4")}}}, up,
-            "active 1000 half");
+        const auto link = [](const QVariant& active, const QVariant& speed, const QVariant& duplex) {
+            return QVariantMap{{u"Active"_s, active}, {u"Speed"_s, speed}, {u"Duplex"_s, duplex}};
+        };
+        const QVariantMap up = link(true, 1000, false);
+        row("all there", QVariantMap{{addresses, QVariantList{u"1.2.3.4"_s}}}, up, "active 1000 half");
         row("empty list", QVariantMap{{addresses, QStringList()}}, up, "inactive 1000 half");
-        row("mixed list", QVariantMap{{addresses, QVariantList{QStringLiteral("1.2.3.4"), 5}}}, up,
-            "inactive 1000 half");
-        row("text for a list", QVariantMap{{addresses, QStringLiteral("1.2.3.4")}}, up, "inactive 1000 half");
-        row("text for a dictionary", QStringLiteral("x"), QStringLiteral("x"), "inactive ? ?");
-        row("link down", {}, QVariantMap{{active, false}, {speed, 1000}, {duplex, true}}, "inactive ? ?");
-        row("1 is not true", {}, QVariantMap{{active, 1}, {speed, 1000}, {duplex, true}}, "inactive ? ?");
-        row("true is not a speed", {}, QVariantMap{{active, true}, {speed, true}, {duplex, 1}},
-            "inactive ? ?");
-        row("no speed", {}, QVariantMap{{active, true}, {duplex, true}}, "inactive ? full");
-        row("fractional speed", {}, QVariantMap{{active, true}, {speed, 2.5}}, "inactive ? ?");
+        row("mixed list", QVariantMap{{addresses, QVariantList{u"1.2.3.4"_s, 5}}}, up, "inactive 1000 half");
+        row("texts for dictionaries", u"x"_s, u"x"_s, "inactive ? ?");
+        row("link down", {}, link(false, 1000, true), "inactive ? ?");
+        row("1 is not true", {}, link(1, 1000, true), "inactive ? ?");
+        row("true is not a speed", {}, link(true, true, 1), "inactive ? ?");
+        row("fractional speed", {}, link(true, 2.5, true), "inactive ? full");
     }
     void liveStateOfAnotherKindCountsAsMissing()
     {
@@ -123,11 +117,9 @@ private Q_SLOTS:
         system.state = {{wifiState, live}, {wifiLink, link}};
         NetworkConfigService service(system);
         const AdapterInfo read = service.listAdapters().result().first();
-        const QString duplex = read.fullDuplex
-                                   ? (*read.fullDuplex ? QStringLiteral("full") : QStringLiteral("half"))
-                                   : QStringLiteral("?");
-        const QString speed = read.linkSpeedMbps ? QString::number(*read.linkSpeedMbps) : QStringLiteral("?");
-        const QString activity = read.isActive ? QStringLiteral("active") : QStringLiteral("inactive");
+        const QString duplex = read.fullDuplex ? (*read.fullDuplex ? u"full"_s : u"half"_s) : u"?"_s;
+        const QString speed = read.linkSpeedMbps ? QString::number(*read.linkSpeedMbps) : u"?"_s;
+        const QString activity = read.isActive ? u"active"_s : u"inactive"_s;
         QTEST((QStringList{activity, speed, duplex}.join(u' ')), "read");
     }
 
@@ -137,29 +129,23 @@ private Q_SLOTS:
         QTest::addColumn<QVariant>("live");
         QTest::addColumn<QVariant>("dns");
         QTest::addColumn<QString>("read");
-        const QVariantMap live{{addresses, QStringList(QStringLiteral("9.9.9.9"))},
-                               {router, QStringLiteral("9.9.9.1")}};
-        const QVariantMap saved{{addresses, QStringList(QStringLiteral("1.1.1.2"))},
-                                {masks, QStringList(QStringLiteral("255.0.0.0"))}};
+        const QVariantMap live{{addresses, QStringList(u"9.9.9.9"_s)}, {router, u"9.9.9.1"_s}};
+        const QVariantMap saved{{addresses, QStringList(u"1.1.1.2"_s)}, {masks, QStringList(u"255.0.0.0"_s)}};
         QVariantMap manual = saved;
-        manual[method] = QStringLiteral("Manual");
-        const QVariantMap three{
-            {servers,
-             QStringList{QStringLiteral("8.8.8.8"), QStringLiteral("8.8.4.4"), QStringLiteral("1.1.1.1")}},
-            {domains, QStringList{QStringLiteral("corp.example"), QStringLiteral("lab.example")}}};
+        manual[method] = u"Manual"_s;
+        const QVariantMap three{{servers, QStringList{u"8.8.8.8"_s, u"8.8.4.4"_s, u"1.1.1.1"_s}},
+                                {domains, QStringList{u"corp.example"_s, u"lab.example"_s}}};
         const auto row = [](const char* name, const QVariant& ipv4, const QVariant& state,
                             const QVariant& dns, const char* read) {
             QTest::newRow(name) << ipv4 << state << dns << QString::fromLatin1(read);
         };
         row("manual ignores the live state", manual, live, {}, "Manual 1.1.1.2 255.0.0.0  Automatic   ");
         row("live values go first", saved, live, {}, "DHCP 9.9.9.9 255.0.0.0 9.9.9.1 Automatic   ");
-        row("DHCP that is down", QVariantMap{{method, QStringLiteral("DHCP")}}, {}, {},
+        row("DHCP that is down", QVariantMap{{method, u"DHCP"_s}}, {}, {}, "DHCP    Automatic   ");
+        row("other kinds", QVariantMap{{method, true}, {addresses, 1}}, QVariantMap{{router, 5}}, u"x"_s,
             "DHCP    Automatic   ");
-        row("other kinds", QVariantMap{{method, true}, {addresses, 1}}, QVariantMap{{router, 5}},
-            QStringLiteral("x"), "DHCP    Automatic   ");
         row("three servers", {}, {}, three, "DHCP    Manual 8.8.8.8 8.8.4.4 corp.example+lab.example");
-        row("domains alone", {}, {}, QVariantMap{{domains, QStringList(QStringLiteral("a"))}},
-            "DHCP    Automatic   a");
+        row("domains alone", {}, {}, QVariantMap{{domains, QStringList(u"a"_s)}}, "DHCP    Automatic   a");
     }
     void configurationIsRead()
     {
@@ -168,102 +154,93 @@ private Q_SLOTS:
         QFETCH(QVariant, dns);
         FakeSystemConfiguration system;
         Service service = wifi();
-        service.protocols = {{QStringLiteral("IPv4"), ipv4}, {QStringLiteral("DNS"), dns}};
+        service.protocols = {{u"IPv4"_s, ipv4}, {u"DNS"_s, dns}};
         system.services = {service};
-        system.state = {
-            {wifiState, live},
-            {wifiLease, QVariantMap{{QStringLiteral("ServerAddress"), QStringLiteral("9.9.9.254")}}}};
+        system.state = {{wifiState, live}, {wifiLease, QVariantMap{{u"ServerAddress"_s, u"9.9.9.254"_s}}}};
         NetworkConfigService backend(system);
-        const auto read = backend.currentConfig(QStringLiteral("Wi-Fi")).result();
+        const auto read = backend.currentConfig(u"Wi-Fi"_s).result();
         QTEST((QStringList{rawValue(read.ipv4Mode), read.ipAddress, read.subnetMask, read.router,
                            rawValue(read.dnsMode), read.primaryDNS, read.alternateDNS,
                            QStringList(read.searchDomains.begin(), read.searchDomains.end()).join(u'+')}
                    .join(u' ')),
               "read");
-        QCOMPARE(read.dhcpServer, Text(QStringLiteral("9.9.9.254")));
-        QCOMPARE(read.computerName, Text(QStringLiteral("Test Machine")));
-        const auto unknown = backend.currentConfig(QStringLiteral("wi-fi")).result();
-        QCOMPARE(unknown.computerName, Text(QStringLiteral("Test Machine")));
+        QCOMPARE(read.dhcpServer, Text(u"9.9.9.254"_s));
+        QCOMPARE(read.computerName, Text(u"Test Machine"_s));
+        const auto unknown = backend.currentConfig(u"wi-fi"_s).result();
+        QCOMPARE(unknown.computerName, Text(u"Test Machine"_s));
         QVERIFY(unknown.dhcpServer.isEmpty() && unknown.ipAddress.isEmpty());
     }
 
-    void dictionariesAreWrittenExactly_data()
-    {
-        QTest::addColumn<NetworkAdapterInfo>("record");
-        QTest::addColumn<QVariantMap>("ipv4");
-        QTest::addColumn<QVariantMap>("dns");
-        const QVariantMap dhcp{{method, QStringLiteral("DHCP")}};
-        NetworkAdapterInfo record{.ipAddress = QStringLiteral("1.1.1.2"),
-                                  .router = QStringLiteral("1.1.1.1")};
-        record.primaryDNS = QStringLiteral("8.8.8.8");
-        record.searchDomains = {QStringLiteral("a")};
-        QTest::newRow("automatic drops the rest") << record << dhcp << QVariantMap();
-        record.dnsMode = DNSMode::manual;
-        record.primaryDNS = Text();
-        record.alternateDNS = QStringLiteral("8.8.4.4");
-        QTest::newRow("alternate server alone")
-            << record << dhcp
-            << QVariantMap{{servers, QStringList(QStringLiteral("8.8.4.4"))},
-                           {domains, QStringList(QStringLiteral("a"))}};
-        record = {
-            .ipv4Mode = IPv4Mode::manual, .subnetMask = QStringLiteral(" x"), .dnsMode = DNSMode::manual};
-        QTest::newRow("texts as they stand") << record
-                                             << QVariantMap{{method, QStringLiteral("Manual")},
-                                                            {addresses, QStringList(QString())},
-                                                            {masks, QStringList(QStringLiteral(" x"))}}
-                                             << QVariantMap();
-    }
     void dictionariesAreWrittenExactly()
     {
-        QFETCH(NetworkAdapterInfo, record);
         FakeSystemConfiguration system;
         system.services = {wifi()};
         NetworkConfigService service(system);
-        QCOMPARE(failureOf(service.writeConfiguration(QStringLiteral("Wi-Fi"), record, {7})), QString());
         const auto& protocols = system.services->first().protocols;
-        QTEST(protocols[QStringLiteral("IPv4")]->toMap(), "ipv4");
-        QTEST(protocols[QStringLiteral("DNS")]->toMap(), "dns");
-        QCOMPARE(system.authorization.handle, 7U);
-        QCOMPARE(system.calls.join(u','), QStringLiteral("open,lock,set IPv4,set DNS,commit,apply,unlock"));
+        const auto check = [&](const NetworkAdapterInfo& record, const Dictionary& ipv4,
+                               const Dictionary& dns) {
+            system.calls.clear();
+            QCOMPARE(failureOf(service.writeConfiguration(u"Wi-Fi"_s, record, {7})), QString());
+            QCOMPARE(protocols[u"IPv4"_s]->toMap(), ipv4);
+            QCOMPARE(protocols[u"DNS"_s]->toMap(), dns);
+            QCOMPARE(system.authorization.handle, 7U);
+            QCOMPARE(system.calls.join(u','), u"open,lock,set IPv4,set DNS,commit,apply,unlock"_s);
+        };
+        const Dictionary dhcp{{method, u"DHCP"_s}};
+        NetworkAdapterInfo record{.ipAddress = u"1.1.1.2"_s, .router = u"1.1.1.1"_s};
+        record.primaryDNS = u"8.8.8.8"_s;
+        record.searchDomains = {u"a"_s};
+        check(record, dhcp, {}); // automatic drops the rest
+        record.dnsMode = DNSMode::manual;
+        record.primaryDNS = Text();
+        record.alternateDNS = u"8.8.4.4"_s;
+        check(record, dhcp, {{servers, QStringList(u"8.8.4.4"_s)}, {domains, QStringList(u"a"_s)}});
+        check({.ipv4Mode = IPv4Mode::manual, .subnetMask = u" x"_s, .dnsMode = DNSMode::manual},
+              {{method, u"Manual"_s}, {addresses, QStringList(QString())}, {masks, QStringList(u" x"_s)}},
+              {});
     }
 
     void everyStepFailsInItsOwnWay_data()
     {
-        QTest::addColumn<QString>("refused");
         QTest::addColumn<QString>("message");
         QTest::addColumn<QString>("calls");
-        const auto row = [](const char* refused, const char* message, const char* calls) {
-            QTest::newRow(refused) << QString::fromLatin1(refused) << QString::fromLatin1(message)
-                                   << QString::fromLatin1(calls);
-        };
-        row("open", "Cannot open system network preferences.", "open");
-        row("lock", "Cannot acquire preferences lock (SC 1003).", "open,lock");
-        row("set", "Service 'Wi-Fi' not found.", "open,lock,unlock");
-        row("service", "Service 'Wi-Fi' not found.", "open,lock,unlock");
-        row("IPv4", "Protocol IPv4 unavailable.", "open,lock,unlock");
-        row("DNS", "", "open,lock,set IPv4,commit,apply,unlock");
-        row("set IPv4", "", "open,lock,set IPv4,set DNS,commit,apply,unlock");
-        row("commit", "Cannot save changes (SC 1003).", "open,lock,set IPv4,set DNS,commit,unlock");
-        row("apply", "Cannot apply changes (SC 1003).", "open,lock,set IPv4,set DNS,commit,apply,unlock");
-        row("keeping DNS", "", "open,lock,set IPv4,commit,apply,unlock");
+        QTest::newRow("open") << "Cannot open system network preferences."
+                              << "open";
+        QTest::newRow("lock") << "Cannot acquire preferences lock (SC 1003)."
+                              << "open,lock";
+        QTest::newRow("set") << "Service 'Wi-Fi' not found."
+                             << "open,lock,unlock";
+        QTest::newRow("service") << "Service 'Wi-Fi' not found."
+                                 << "open,lock,unlock";
+        QTest::newRow("IPv4") << "Protocol IPv4 unavailable."
+                              << "open,lock,unlock";
+        QTest::newRow("DNS") << ""
+                             << "open,lock,set IPv4,commit,apply,unlock";
+        QTest::newRow("set IPv4") << ""
+                                  << "open,lock,set IPv4,set DNS,commit,apply,unlock";
+        QTest::newRow("commit") << "Cannot save changes (SC 1003)."
+                                << "open,lock,set IPv4,set DNS,commit,unlock";
+        QTest::newRow("apply") << "Cannot apply changes (SC 1003)."
+                               << "open,lock,set IPv4,set DNS,commit,apply,unlock";
+        QTest::newRow("keeping DNS") << ""
+                                     << "open,lock,set IPv4,commit,apply,unlock";
     }
     void everyStepFailsInItsOwnWay()
     {
-        QFETCH(QString, refused);
+        const QString refused = QString::fromLatin1(QTest::currentDataTag());
         FakeSystemConfiguration system;
         system.services = {wifi()};
-        system.preferencesAvailable = refused != QStringLiteral("open");
-        system.setAvailable = refused != QStringLiteral("set");
-        if (refused == QStringLiteral("service"))
+        system.preferencesAvailable = refused != u"open"_s;
+        system.setAvailable = refused != u"set"_s;
+        if (refused == u"service"_s)
             system.services = {named("Ethernet"), Service{}};
         system.services->first().protocols.remove(refused);
         system.refusals[refused] = 1003;
-        system.refusals[QStringLiteral("unlock")] = -5; // too late to be the reason for anything
+        system.refusals[u"unlock"_s] = -5; // too late to be the reason for anything
         NetworkConfigService service(system);
-        const auto dns = refused == QStringLiteral("keeping DNS")
-                             ? NetworkConfigService::DNSHandling::keep
-                             : NetworkConfigService::DNSHandling::replace;
-        const QString message = failureOf(service.writeConfiguration(QStringLiteral("Wi-Fi"), {}, {1}, dns));
+        const auto dns = refused == u"keeping DNS"_s ? NetworkConfigService::DNSHandling::keep
+                                                     : NetworkConfigService::DNSHandling::replace;
+        const QString message = failureOf(service.writeConfiguration(u"Wi-Fi"_s, {}, {1}, dns));
         QTEST(message, "message");
         QTEST(system.calls.join(u','), "calls");
     }
@@ -273,12 +250,12 @@ private Q_SLOTS:
         FakeSystemConfiguration system;
         system.services = {wifi()};
         NetworkConfigService service(system);
-        QCOMPARE(failureOf(service.setServiceEnabled(false, QStringLiteral("Wi-Fi"), {1})), QString());
+        QCOMPARE(failureOf(service.setServiceEnabled(false, u"Wi-Fi"_s, {1})), QString());
         QVERIFY(!system.services->first().enabled);
-        QCOMPARE(system.calls.join(u','), QStringLiteral("open,lock,enable,commit,apply,unlock"));
-        system.refusals[QStringLiteral("commit")] = 3005;
-        QCOMPARE(failureOf(service.setServiceEnabled(true, QStringLiteral("Wi-Fi"), {1})),
-                 QStringLiteral("Cannot save changes (SC 3005)."));
+        QCOMPARE(system.calls.join(u','), u"open,lock,enable,commit,apply,unlock"_s);
+        system.refusals[u"commit"_s] = 3005;
+        QCOMPARE(failureOf(service.setServiceEnabled(true, u"Wi-Fi"_s, {1})),
+                 u"Cannot save changes (SC 3005)."_s);
     }
 };
 
