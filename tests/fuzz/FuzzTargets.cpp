@@ -25,8 +25,7 @@ void promise(bool kept)
 
 /// Texts that mean something, and the keys of the dictionaries.
 const QStringList words =
-    QStringLiteral(" . 7 DHCP Manual 10.0.0.2 10.2.3.4 255.255.0.0 ConfigMethod Addresses SubnetMasks Router "
-                   "ServerAddresses ServerAddress SearchDomains Active Speed Duplex")
+    u" . 7 DHCP Manual 10.0.0.2 10.2.3.4 255.255.0.0 ConfigMethod Addresses SubnetMasks Router ServerAddresses ServerAddress SearchDomains Active Speed Duplex"_s
         .split(u' ');
 
 /// Makes values of the bytes of an input; past its end there are zeros.
@@ -94,7 +93,7 @@ void profiles(const QByteArray& input)
 void machine(const QByteArray& input)
 {
     static const QTemporaryDir folder;
-    static const SimulatedMachine machine(folder.filePath(QStringLiteral("machine.json")));
+    static const SimulatedMachine machine(folder.filePath(u"machine.json"_s));
     static SimulatedConfiguration system(machine);
     static NetworkConfigService service(system);
     QFile file(machine.file());
@@ -131,12 +130,11 @@ void dictionaries(const QByteArray& input)
         made.interface = {invention.text(), invention.maybeText(), invention.maybeText()};
         for (auto& protocol : made.protocols)
             protocol = invention.value();
-        const QString state = QStringLiteral("State:/Network/Service/%1/").arg(*made.id);
-        const QString interface =
-            QStringLiteral("State:/Network/Interface/%1/").arg(*made.interface->bsdName);
-        system.state[state + QStringLiteral("IPv4")] = invention.value();
-        system.state[interface + QStringLiteral("Link")] = invention.value();
-        system.state[interface + QStringLiteral("DHCP")] = invention.value();
+        const QString state = u"State:/Network/Service/%1/"_s.arg(*made.id);
+        const QString interface = u"State:/Network/Interface/%1/"_s.arg(*made.interface->bsdName);
+        system.state[state + u"IPv4"_s] = invention.value();
+        system.state[interface + u"Link"_s] = invention.value();
+        system.state[interface + u"DHCP"_s] = invention.value();
         if (invention.number(4) == 0)
             made.id = made.interface->bsdName = std::nullopt;
         system.services->append(made);
@@ -161,7 +159,7 @@ void octets(const QByteArray& input)
     static const auto* application = new QApplication(count, nullptr);
     promise(application);
     Observed<Text> value;
-    IPAddressField field(value, QStringLiteral("192.168.1.1"), QStringLiteral("IP Address:"));
+    IPAddressField field(value, u"192.168.1.1"_s, u"IP Address:"_s);
     Invention invention(input);
     QLineEdit* octet = field.octet(0);
     const std::array<std::function<void()>, 7> operations{

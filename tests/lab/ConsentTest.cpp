@@ -5,6 +5,7 @@
 #include <QTest>
 
 using namespace ardeo;
+using namespace Qt::StringLiterals;
 
 /// One model and the real polkit, as an ordinary user with an agent that gives its consent and counts how
 /// often.
@@ -39,7 +40,7 @@ private Q_SLOTS:
     void consentIsAskedForOnceAndAgainWhenItHasLapsed()
     {
         awaitAgent();
-        Platform platform = linuxPlatform(QStringLiteral("/bin/true"));
+        Platform platform = linuxPlatform(u"/bin/true"_s);
         const auto model = MainViewModel::create(platform);
         QCoro::waitFor(model->loadAdapters());
         const auto apply = [&] {
@@ -50,7 +51,7 @@ private Q_SLOTS:
         QCOMPARE(apply(), QString());
         QCOMPARE(prompts(), 1);
         lapse();
-        QCOMPARE(apply(), QStringLiteral("Cannot acquire preferences lock (SC 1003)."));
+        QCOMPARE(apply(), u"Cannot acquire preferences lock (SC 1003)."_s);
         QCOMPARE(prompts(), 1);
         QCOMPARE(apply(), QString());
         QCOMPARE(prompts(), 2);

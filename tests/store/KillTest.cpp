@@ -36,7 +36,7 @@ static void change(NetworkPresetStore& store, unsigned number)
 int main(int, char** arguments)
 {
     const int kills = arguments[1] ? std::atoi(arguments[1]) : 60;
-    const QString key = QLatin1String(applicationIdentifier) + QStringLiteral(".presets");
+    const QString key = QLatin1String(applicationIdentifier) + u".presets"_s;
     const QTemporaryDir folder;
     FileUserDefaults disk(QDir(folder.path()));
     // cppcheck-suppress variableScope ; one mapping serves all that are killed
