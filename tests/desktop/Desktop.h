@@ -4,6 +4,7 @@
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
+#include <QProcess>
 #include <QTest>
 
 #include <atspi/atspi.h>
@@ -16,10 +17,27 @@ struct Unref {
 };
 using Node = std::unique_ptr<AtspiAccessible, Unref>;
 
+using namespace Qt::StringLiterals;
+
 inline QString textOf(char* text)
 {
     const std::unique_ptr<char, decltype(&g_free)> owner(text, &g_free);
     return QString::fromUtf8(text);
+}
+
+/// What the command, of words without spaces, says on its standard output.
+inline QString output(const QString& command)
+{
+    QProcess process;
+    process.startCommand(command);
+    process.waitForFinished();
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+inline bool hasState(AtspiAccessible* widget, AtspiStateType state)
+{
+    const std::unique_ptr<AtspiStateSet, Unref> set(atspi_accessible_get_state_set(widget));
+    return atspi_state_set_contains(set.get(), state) != FALSE;
 }
 
 /// The widget of that role and name below the root, by default only one that is showing; null when there is
@@ -32,13 +50,9 @@ inline Node find(AtspiAccessible* root, AtspiRole role, const QString& name, boo
         if (!child)
             continue;
         if (atspi_accessible_get_role(child.get(), nullptr) == role &&
-            textOf(atspi_accessible_get_name(child.get(), nullptr)) == name) {
-            AtspiStateSet* set = atspi_accessible_get_state_set(child.get());
-            const bool showing = atspi_state_set_contains(set, ATSPI_STATE_SHOWING) != FALSE;
-            g_object_unref(set);
-            if (showing || hiddenToo)
-                return child;
-        }
+            textOf(atspi_accessible_get_name(child.get(), nullptr)) == name &&
+            (hiddenToo || hasState(child.get(), ATSPI_STATE_SHOWING)))
+            return child;
         if (Node found = find(child.get(), role, name, hiddenToo))
             return found;
     }
@@ -55,11 +69,7 @@ inline Node find(AtspiRole role, const char* name, bool hiddenToo = false)
 
 inline bool isEnabled(const Node& node)
 {
-    AtspiStateSet* set = node ? atspi_accessible_get_state_set(node.get()) : nullptr;
-    const bool enabled = set && atspi_state_set_contains(set, ATSPI_STATE_ENABLED) != FALSE;
-    if (set)
-        g_object_unref(set);
-    return enabled;
+    return node && hasState(node.get(), ATSPI_STATE_ENABLED);
 }
 
 inline void key(unsigned symbol)
@@ -93,11 +103,22 @@ class Portal : public QObject
 public:
     bool asked = false;
 
+    /// Takes the portal's place on the session bus.
+    bool appear()
+    {
+        qDBusRegisterMetaType<SettingGroups>();
+        QDBusConnection bus = QDBusConnection::sessionBus();
+        return bus.registerService(u"org.freedesktop.portal.Desktop"_s) &&
+               bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this,
+                                  QDBusConnection::ExportScriptableContents |
+                                      QDBusConnection::ExportAdaptors);
+    }
+
 public Q_SLOTS:
     Q_SCRIPTABLE SettingGroups ReadAll(const QStringList&)
     {
         asked = true;
-        return {{QStringLiteral("org.freedesktop.appearance"), {{QStringLiteral("reduced-motion"), 1U}}}};
+        return {{u"org.freedesktop.appearance"_s, {{u"reduced-motion"_s, 1U}}}};
     }
 
 Q_SIGNALS:

@@ -3,32 +3,18 @@
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QProcess>
 
 namespace
 {
 
-QString output(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished();
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
-
 bool hasAddress(const QString& address)
 {
-    return output(QStringLiteral("ip"),
-                  {QStringLiteral("-4"), QStringLiteral("-o"), QStringLiteral("address"),
-                   QStringLiteral("show"), QStringLiteral("dev"), QStringLiteral("eth0")})
-        .contains(u' ' + address);
+    return output(u"ip -4 -o address show dev eth0"_s).contains(u' ' + address);
 }
 
 QString gateways()
 {
-    return output(QStringLiteral("ip"),
-                  {QStringLiteral("-4"), QStringLiteral("route"), QStringLiteral("show"),
-                   QStringLiteral("default"), QStringLiteral("dev"), QStringLiteral("eth0")});
+    return output(u"ip -4 route show default dev eth0"_s);
 }
 
 } // namespace
@@ -58,20 +44,14 @@ class WindowTest : public QObject
             atspi_accessible_get_component_iface(node.get()));
         QVERIFY(component && atspi_component_grab_focus(component.get(), nullptr));
         QTRY_VERIFY_WITH_TIMEOUT(
-            [&] {
-                atspi_accessible_clear_cache(node.get());
-                AtspiStateSet* set = atspi_accessible_get_state_set(node.get());
-                const bool focused = atspi_state_set_contains(set, ATSPI_STATE_FOCUSED) != FALSE;
-                g_object_unref(set);
-                return focused;
-            }(),
-            patience);
+            (atspi_accessible_clear_cache(node.get()), hasState(node.get(), ATSPI_STATE_FOCUSED)), patience);
     }
     /// Types over the four parts of an address, part by part; an empty part is cleared.
-    static void type(const char* field, const QStringList& parts)
+    static void type(const char* field, const char* address)
     {
+        const QStringList parts = QString::fromLatin1(address).split(u'.');
         const auto name = [field](int part) {
-            return QStringLiteral("%1, part %2 of 4").arg(QLatin1String(field)).arg(part);
+            return u"%1, part %2 of 4"_s.arg(QLatin1String(field)).arg(part);
         };
         focus(ATSPI_ROLE_TEXT, name(1).toUtf8().constData());
         for (int i = 0; i < 4; ++i) {
@@ -100,7 +80,7 @@ class WindowTest : public QObject
         const Node node = find(ATSPI_ROLE_TEXT, name.toUtf8().constData());
         const std::unique_ptr<AtspiText, Unref> text(node ? atspi_accessible_get_text_iface(node.get())
                                                           : nullptr);
-        return text ? textOf(atspi_text_get_text(text.get(), 0, -1, nullptr)) : QStringLiteral("?");
+        return text ? textOf(atspi_text_get_text(text.get(), 0, -1, nullptr)) : u"?"_s;
     }
     static bool shows(const char* label) { return find(ATSPI_ROLE_LABEL, label) != nullptr; }
     static void apply()
@@ -117,13 +97,9 @@ class WindowTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        qDBusRegisterMetaType<SettingGroups>();
-        QDBusConnection bus = QDBusConnection::sessionBus();
-        QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
-        QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), &m_portal,
-                                   QDBusConnection::ExportScriptableContents));
+        QVERIFY(m_portal.appear());
         m_program.setProcessChannelMode(QProcess::ForwardedChannels);
-        m_program.start(qEnvironmentVariable("LAB_PROGRAM"), {QStringLiteral("--system=networkmanager")});
+        m_program.start(qEnvironmentVariable("LAB_PROGRAM"), {u"--system=networkmanager"_s});
         QTRY_VERIFY_WITH_TIMEOUT(m_portal.asked, patience);
         QCOMPARE(atspi_init(), 0);
     }
@@ -139,8 +115,8 @@ private Q_SLOTS:
         QTRY_VERIFY(appearance.wantsReducedMotion());
         QVERIFY(!appearance.isDark());
         for (const uint scheme : {1U, 2U}) {
-            Q_EMIT m_portal.SettingChanged(QStringLiteral("org.freedesktop.appearance"),
-                                           QStringLiteral("color-scheme"), QDBusVariant(scheme));
+            Q_EMIT m_portal.SettingChanged(u"org.freedesktop.appearance"_s, u"color-scheme"_s,
+                                           QDBusVariant(scheme));
             QTRY_COMPARE(appearance.isDark(), std::optional(scheme == 1));
         }
     }
@@ -156,54 +132,49 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(shows("10.77.0.1"), patience);
 
         choose("Manually Set IP Address");
-        type("IP Address",
-             {QStringLiteral("10"), QStringLiteral("77"), QStringLiteral("0"), QStringLiteral("50")});
+        type("IP Address", "10.77.0.50");
         apply();
-        QVERIFY(hasAddress(QStringLiteral("10.77.0.50/24")));
-        QVERIFY(gateways().contains(QStringLiteral("10.77.0.1")));
+        QVERIFY(hasAddress(u"10.77.0.50/24"_s));
+        QVERIFY(gateways().contains(u"10.77.0.1"_s));
         QVERIFY(shows("10.77.0.50") && shows("Manual"));
 
-        type("Gateway", {QString(), QString(), QString(), QString()});
+        type("Gateway", "...");
         choose("Manually Set DNS Address");
-        type("Preferred DNS",
-             {QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("1")});
-        type("Alternate DNS",
-             {QStringLiteral("9"), QStringLiteral("9"), QStringLiteral("9"), QStringLiteral("9")});
+        type("Preferred DNS", "1.1.1.1");
+        type("Alternate DNS", "9.9.9.9");
         apply();
         QCOMPARE(gateways(), QString());
-        type("Alternate DNS", {QString(), QString(), QString(), QString()});
+        type("Alternate DNS", "...");
         apply();
-        QFile resolver(QStringLiteral("/etc/resolv.conf"));
+        QFile resolver(u"/etc/resolv.conf"_s);
         QVERIFY(resolver.open(QIODevice::ReadOnly));
         const QByteArray servers = resolver.readAll();
         QVERIFY(servers.contains("1.1.1.1") && !servers.contains("9.9.9.9"));
 
         click(ATSPI_ROLE_LIST_ITEM, "Bench, Manual · Wired connection 1");
-        QTRY_COMPARE_WITH_TIMEOUT(contentOf(QStringLiteral("IP Address, part 4 of 4")), QStringLiteral("60"),
-                                  patience);
+        QTRY_COMPARE_WITH_TIMEOUT(contentOf(u"IP Address, part 4 of 4"_s), u"60"_s, patience);
         apply();
-        QVERIFY(hasAddress(QStringLiteral("10.77.0.60/24")));
+        QVERIFY(hasAddress(u"10.77.0.60/24"_s));
         choose("Automatically Set IP Address");
         apply();
-        QTRY_VERIFY_WITH_TIMEOUT(hasAddress(QStringLiteral("10.77.0.1")), patience); // .100 to .200
+        QTRY_VERIFY_WITH_TIMEOUT(hasAddress(u"10.77.0.1"_s), patience); // .100 to .200
         QVERIFY(shows("DHCP"));
     }
 
     void theWindowLivesWhileTheDaemonIsSilent()
     {
         const QString daemon = qEnvironmentVariable("LAB_NM_PID");
-        QProcess::execute(QStringLiteral("kill"), {QStringLiteral("-STOP"), daemon});
+        QProcess::execute(u"kill"_s, {u"-STOP"_s, daemon});
         press("Apply");
         choose("Manually Set IP Address");
         QElapsedTimer typing;
         typing.start();
-        type("IP Address",
-             {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4")});
+        type("IP Address", "1.2.3.4");
         QVERIFY(typing.elapsed() < 9'000 && !shows("Applied"));
         QTRY_VERIFY_WITH_TIMEOUT(shows("Cannot open system network preferences."), patience);
         press("Refresh");
         QTRY_VERIFY_WITH_TIMEOUT(shows("No Network Services"), patience);
-        QProcess::execute(QStringLiteral("kill"), {QStringLiteral("-CONT"), daemon});
+        QProcess::execute(u"kill"_s, {u"-CONT"_s, daemon});
         control('r');
         QTRY_VERIFY_WITH_TIMEOUT(shows("Set Profile Properties") && shows("10.77.0.1"), patience);
     }
