@@ -1,8 +1,8 @@
-# Sourced by ./run, ./test and tests/fuzz/run: installs from Debian's packages what is missing, and says what.
+# Sourced by the scripts that need them: installs from Debian's packages what is missing, and says what.
 
 build_packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-svg-dev qcoro-qt6-dev nlohmann-json3-dev libnm-dev libpolkit-gobject-1-dev
+    qt6-base-dev qt6-svg-dev libxcb1-dev qcoro-qt6-dev nlohmann-json3-dev libnm-dev libpolkit-gobject-1-dev
     librsvg2-bin gzip dpkg-dev file
 )
 test_packages=(
