@@ -25,8 +25,8 @@ void promise(bool kept)
 
 /// Texts that mean something, and the keys of the dictionaries.
 const QStringList words =
-    u" . 7 DHCP Manual 10.0.0.2 10.2.3.4 255.255.0.0 ConfigMethod Addresses SubnetMasks Router ServerAddresses ServerAddress SearchDomains Active Speed Duplex"_s
-        .split(u' ');
+    u" . 7 DHCP Manual 10.0.0.2 10.2.3.4 255.255.0.0 ConfigMethod Addresses SubnetMasks "
+    "Router ServerAddresses ServerAddress SearchDomains Active Speed Duplex"_s.split(u' ');
 
 /// Makes values of the bytes of an input; past its end there are zeros.
 class Invention

@@ -2,6 +2,7 @@
 #include "app/MenuBarMenuView.h"
 #include "fakes/Fakes.h"
 #include "platform/simulated/SimulatedPlatform.h"
+#include "ui/ContentView.h"
 #include "ui/Controls.h"
 #include "ui/HelpView.h"
 #include "ui/IPAddressField.h"
@@ -404,6 +405,33 @@ private Q_SLOTS:
             QCOMPARE(disabled.join(u','), QLatin1String(expected));
         }
         w.model->isApplying = false;
+    }
+
+    void hiddenWindowComesBackAsItWas()
+    {
+        Window w;
+        w.model->searchDomains = Text(u"not applied"_s);
+        w.window->close();
+        QVERIFY(!w.window->isVisible());
+        MenuBarMenuView menu(*w.model, w.app->appDelegate, w.app->notifications, w.platform);
+        const auto entries = menu.actions();
+        (*std::ranges::find(entries, u"Keyboard Shortcuts…"_s, &QAction::text))->trigger();
+        QVERIFY(w.window->isVisible());
+        const auto windows = [](const QString& title) {
+            return std::ranges::count_if(QApplication::topLevelWidgets(), [&title](const QWidget* window) {
+                return window->isVisible() && window->windowTitle() == title;
+            });
+        };
+        w.clock->advance(149ms);
+        QCoreApplication::processEvents();
+        QCOMPARE(windows(u"Keyboard Shortcuts"_s), 0);
+        w.clock->advance(1ms);
+        QTRY_COMPARE(windows(u"Keyboard Shortcuts"_s), 1);
+        for (int i = 0; i < 2; ++i)
+            w.app->notifications.post(openHelpNotification);
+        QCOMPARE(windows(u"Ardeo IP Config Help"_s), 1);
+        QVERIFY(!w.model->isLoading.value()); // nothing is read anew
+        QCOMPARE(w.model->searchDomains.value(), Text(u"not applied"_s));
     }
 
     void noticesAreGivenOnce()
