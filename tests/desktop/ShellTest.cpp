@@ -64,7 +64,7 @@ class ShellTest : public QObject
 {
     Q_OBJECT
 
-    static constexpr int patience = 15'000;
+    static constexpr int patience = 40'000;
     static constexpr auto mainTitle = "Ardeo IP Config";
     static constexpr auto noIcons =
         "Ardeo IP Config is still running. This desktop shows no menu bar icons, so its window was minimised "
@@ -205,8 +205,11 @@ private Q_SLOTS:
 
     void commandsDoTheirWorkAndShowWhatCanBeDone()
     {
+        // Each to its end: of actions that overlap, the first to end frees the way for the next.
         choose("Disable Adapter");
+        QTRY_VERIFY_WITH_TIMEOUT(isEnabledItem("Enable Adapter") && isEnabledItem("Apply"), patience);
         choose("Enable Adapter");
+        QTRY_VERIFY_WITH_TIMEOUT(isEnabledItem("Disable Adapter") && isEnabledItem("Apply"), patience);
         choose("Renew DHCP");
         QTRY_VERIFY_WITH_TIMEOUT(!isEnabledItem("Apply"), patience);
         QTRY_VERIFY_WITH_TIMEOUT(isEnabledItem("Apply"), patience);
