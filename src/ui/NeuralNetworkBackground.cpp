@@ -16,8 +16,12 @@ namespace
 {
 
 constexpr int tickMilliseconds = 33;
-/// Ticks after which also what lies above is painted anew.
-constexpr int coveredTicks = 8;
+/// Ticks after which also what lies above is painted anew. Until then the ground that shines through a card
+/// has changed by one or two steps of colour of 255.
+constexpr int coveredTicks = 16;
+/// Rows that Qt fills without spreading them over a pool of threads; waking these takes longer than the
+/// filling.
+constexpr int bandRows = 64;
 /// By how much the backdrop is smaller than the view.
 constexpr int backdropScale = 24;
 
@@ -125,41 +129,52 @@ void NeuralNetworkBackground::resizeEvent(QResizeEvent*)
 void NeuralNetworkBackground::timerEvent(QTimerEvent*)
 {
     m_time = m_clock.referenceTime();
-    forgetFrame();
-    ++m_ticks;
-    update(m_ticks % coveredTicks == 0 ? QRegion(rect()) : QRegion(rect()) - m_covered());
+    m_drawn = {};
+    if (++m_ticks % coveredTicks != 0)
+        return update(QRegion(rect()) - m_covered());
+    m_backdrop = {};
+    update();
 }
 
 void NeuralNetworkBackground::forgetFrame()
 {
     m_frame = {};
+    m_drawn = {};
     m_backdrop = {};
 }
 
-const QImage& NeuralNetworkBackground::frame()
+const QImage& NeuralNetworkBackground::frame(const QRegion& part)
 {
-    if (m_frame.isNull() || m_frame.devicePixelRatio() != devicePixelRatioF()) {
+    if (!(part - m_drawn).isEmpty() || m_frame.devicePixelRatio() != devicePixelRatioF()) {
         if (!m_renderer)
             m_renderer.emplace();
-        m_frame =
-            m_renderer->render(size(), m_time, look::schemeOf(this), m_maxDist, m_speed, devicePixelRatioF());
+        m_frame = m_renderer->render(size(), m_time, look::schemeOf(this), m_maxDist, m_speed,
+                                     devicePixelRatioF(), part);
+        m_drawn = part;
     }
     return m_frame;
 }
 
 const QImage& NeuralNetworkBackground::backdrop()
 {
-    if (m_backdrop.isNull() && !frame().isNull())
-        m_backdrop = averaged(m_frame, {qMax(1, width() / backdropScale), qMax(1, height() / backdropScale)});
+    if (m_backdrop.isNull() && !size().isEmpty())
+        m_backdrop =
+            averaged(frame(rect()), {qMax(1, width() / backdropScale), qMax(1, height() / backdropScale)});
     return m_backdrop;
 }
 
 void NeuralNetworkBackground::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.setClipRegion(event->region());
-    painter.fillRect(event->rect(), look::colours(this).window);
-    painter.drawImage(QPointF(), frame());
+    const QImage& image = frame(event->region());
+    for (const QRect& part : event->region()) {
+        for (int top = part.top(); top <= part.bottom(); top += bandRows) {
+            const QRect band(part.left(), top, part.width(), qMin(bandRows, part.bottom() + 1 - top));
+            painter.setClipRect(band);
+            painter.fillRect(band, look::colours(this).window);
+            painter.drawImage(QPointF(), image);
+        }
+    }
 }
 
 } // namespace ardeo

@@ -23,7 +23,8 @@ public:
     /// Tells which part is covered by what lies above. Painting that anew for each frame would cost far more
     /// than the frame, so it follows a few times a second only.
     void setCovered(std::function<QRegion()> covered);
-    /// The current frame so strongly blurred that it changes slowly: what shows through a card.
+    /// A frame so strongly blurred that it changes slowly: what shows through a card. It is the same for all
+    /// that is painted between two updates of what is covered.
     const QImage& backdrop();
     /// Whether frames are being drawn.
     bool isTicking() const { return m_timer != 0; }
@@ -41,7 +42,8 @@ private:
     void startOrStop();
     /// Frames are drawn when they are looked at: at the start a window changes its size and looks many times.
     void forgetFrame();
-    const QImage& frame();
+    /// The current frame, of which at least that part is drawn.
+    const QImage& frame(const QRegion& part);
 
     Clock& m_clock;
     double m_maxDist;
@@ -49,6 +51,7 @@ private:
     std::function<QRegion()> m_covered = [] { return QRegion(); };
     std::optional<NeuralNetworkRenderer> m_renderer;
     QImage m_frame;
+    QRegion m_drawn;
     QImage m_backdrop;
     double m_time = 0;
     int m_timer = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 // How a frame is drawn fast. Links, their glows and the glows of the nodes have one colour, so that their
 // layers come down to a product of transmittances, in any order; only the dots have a colour of their own. So
@@ -65,6 +66,7 @@ constexpr double linkGlowVariance =
 
 constexpr int nodeGlowReach = 22;
 constexpr int nodeGlowSteps = 2; // per square point
+constexpr int nodeGlowEnd = nodeGlowReach * nodeGlowReach * nodeGlowSteps;
 constexpr int dotBlock = 8;
 
 struct Palette {
@@ -111,20 +113,31 @@ double dotCoverage(double x, double y)
     return sum / parts;
 }
 
-/// Calls with each pair of nodes that are linked, and the opacity of the link.
-template <typename Draw>
-[[gnu::always_inline]] inline void forEachLink(const std::vector<QPointF>& positions, double maxDist,
-                                               Draw draw)
+/// A weight of 1 in a plane, a little less than the whole so that rounding stays below it.
+constexpr float wholeSample = 255 * 256;
+constexpr Share halfStep = 128;
+
+constexpr Share shareOf(double part)
 {
-    for (std::size_t i = 0; i < positions.size(); ++i) {
-        for (std::size_t j = i + 1; j < positions.size(); ++j) {
-            const QPointF way = positions[j] - positions[i];
-            const double distance = std::hypot(way.x(), way.y());
-            // Without length there is no line to see, nor a direction.
-            if (distance < maxDist && distance > 0)
-                draw(positions[i], positions[j], (1 - distance / maxDist) * linkOpacity);
-        }
-    }
+    return static_cast<Share>(std::min(part * 65536, 65535.0));
+}
+
+constexpr std::array<Share, 3> sharesOf(const std::array<float, 3>& colour)
+{
+    return {shareOf(colour[0]), shareOf(colour[1]), shareOf(colour[2])};
+}
+
+[[gnu::always_inline]] inline Share times(Share sample, Share share)
+{
+    return static_cast<Share>(static_cast<std::uint32_t>(sample) * share >> 16);
+}
+
+/// The value of a cubic spline between four neighbours.
+[[gnu::always_inline]] inline Share between(Share first, Share second, Share third, Share fourth,
+                                            const std::array<Share, 4>& weights)
+{
+    return static_cast<Share>(times(first, weights[0]) + times(second, weights[1]) +
+                              times(third, weights[2]) + times(fourth, weights[3]));
 }
 
 /// exp(-depth) for depths from 0, without a branch, so that a row of them is computed side by side.
@@ -140,42 +153,41 @@ inline float transmittance(float depth)
     return value * value;
 }
 
-/// One row of the picture: across by the four expanded rows, then to 8 bits.
+/// One row of the picture: down by the four expanded rows, then to 8 bits.
 template <bool withDots>
 [[gnu::always_inline]] inline void
-writeRow(std::uint32_t* __restrict out, int from, int to, const std::array<const float*, 4>& links,
-         const std::array<const float*, 4>& dots, const std::array<float, 4>& weights, const Palette& palette)
+writeRow(std::uint32_t* __restrict out, int from, int to, const std::array<const Share*, 4>& links,
+         const std::array<const Share*, 4>& dots, const std::array<Share, 4>& weights, const Palette& palette)
 {
-    const float* const l0 = links[0];
-    const float* const l1 = links[1];
-    const float* const l2 = links[2];
-    const float* const l3 = links[3];
-    const float* const d0 = dots[0];
-    const float* const d1 = dots[1];
-    const float* const d2 = dots[2];
-    const float* const d3 = dots[3];
-    const float w0 = weights[0] * 255;
-    const float w1 = weights[1] * 255;
-    const float w2 = weights[2] * 255;
-    const float w3 = weights[3] * 255;
-    const auto [lr, lg, lb] = palette.link;
-    const auto [dr, dg, db] = palette.dot;
+    const auto [l0, l1, l2, l3] = links;
+    const auto [d0, d1, d2, d3] = dots;
+    const auto [lr, lg, lb] = sharesOf(palette.link);
+    const auto [dr, dg, db] = sharesOf(palette.dot);
     for (int x = from; x < to; ++x) {
-        const float link = w0 * l0[x] + w1 * l1[x] + w2 * l2[x] + w3 * l3[x];
-        float alpha = link + 0.5F;
-        float red = link * lr + 0.5F;
-        float green = link * lg + 0.5F;
-        float blue = link * lb + 0.5F;
+        const Share link = between(l0[x], l1[x], l2[x], l3[x], weights);
+        auto alpha = static_cast<Share>(link + halfStep);
+        auto red = static_cast<Share>(times(link, lr) + halfStep);
+        auto green = static_cast<Share>(times(link, lg) + halfStep);
+        auto blue = static_cast<Share>(times(link, lb) + halfStep);
         if constexpr (withDots) {
-            const float dot = w0 * d0[x] + w1 * d1[x] + w2 * d2[x] + w3 * d3[x];
-            alpha += dot;
-            red += dot * dr;
-            green += dot * dg;
-            blue += dot * db;
+            const Share dot = between(d0[x], d1[x], d2[x], d3[x], weights);
+            alpha = static_cast<Share>(alpha + dot);
+            red = static_cast<Share>(red + times(dot, dr));
+            green = static_cast<Share>(green + times(dot, dg));
+            blue = static_cast<Share>(blue + times(dot, db));
         }
-        out[x] = static_cast<std::uint32_t>(static_cast<int>(alpha) << 24 | static_cast<int>(red) << 16 |
-                                            static_cast<int>(green) << 8 | static_cast<int>(blue));
+        const auto upper = static_cast<Share>((alpha & 0xFF00) | red >> 8);
+        const auto lower = static_cast<Share>((green & 0xFF00) | blue >> 8);
+        out[x] = static_cast<std::uint32_t>(upper) << 16 | lower;
     }
+}
+
+QRegion grown(const QRegion& region, int margin)
+{
+    QRegion result;
+    for (const QRect& rect : region)
+        result += rect.adjusted(-margin, -margin, margin, margin);
+    return result;
 }
 
 } // namespace
@@ -203,6 +215,11 @@ void NeuralNetworkRenderer::Plane::reshape(int columns, int rows)
     m_rows = rows;
     m_stride = columns + 2 * margin;
     m_samples.resize(static_cast<std::size_t>(m_stride * (rows + 2 * margin)));
+}
+
+QRect NeuralNetworkRenderer::Plane::area(int border) const
+{
+    return QRect(0, 0, m_columns, m_rows).adjusted(-border, -border, border, border);
 }
 
 void NeuralNetworkRenderer::Plane::fill(float value)
@@ -254,7 +271,7 @@ NeuralNetworkRenderer::NeuralNetworkRenderer()
                                              2 * nodeGlowRadius / slices /
                                              (deviation * std::sqrt(2 * std::numbers::pi));
     }
-    for (int step = 0; step < square(nodeGlowReach) * nodeGlowSteps; ++step) {
+    for (int step = 0; step < nodeGlowEnd; ++step) {
         const double radius = std::sqrt((step + 0.5) / nodeGlowSteps);
         double density = 0;
         for (int i = 0; i < slices; ++i) {
@@ -264,6 +281,7 @@ NeuralNetworkRenderer::NeuralNetworkRenderer()
         }
         m_nodeGlow.push_back(static_cast<float>(1 - nodeGlowOpacity * density));
     }
+    m_nodeGlow.push_back(1);
 }
 
 NeuralNetworkRenderer::Kernel NeuralNetworkRenderer::kernelOf(double variance)
@@ -296,16 +314,15 @@ std::vector<NeuralNetworkRenderer::Tap> NeuralNetworkRenderer::tapsOf(int pixels
         const double position = ((i + 0.5) / scale - 1) / 2;
         const double t = position - std::floor(position);
         const double u = 1 - t;
-        taps.push_back(
-            {static_cast<int>(std::floor(position)) - 1,
-             {static_cast<float>(u * u * u / 6), static_cast<float>((4 - 3 * t * t * (2 - t)) / 6),
-              static_cast<float>((4 - 3 * u * u * (2 - u)) / 6), static_cast<float>(t * t * t / 6)}});
+        taps.push_back({static_cast<int>(std::floor(position)) - 1,
+                        {shareOf(u * u * u / 6), shareOf((4 - 3 * t * t * (2 - t)) / 6),
+                         shareOf((4 - 3 * u * u * (2 - u)) / 6), shareOf(t * t * t / 6)}});
     }
     return taps;
 }
 
 QImage NeuralNetworkRenderer::render(QSizeF size, double time, ColorScheme scheme, double maxDist,
-                                     double speed, qreal devicePixelRatio)
+                                     double speed, qreal devicePixelRatio, const std::optional<QRegion>& part)
 {
     const QSize pixels = (size * devicePixelRatio).toSize();
     if (pixels.isEmpty())
@@ -314,14 +331,33 @@ QImage NeuralNetworkRenderer::render(QSizeF size, double time, ColorScheme schem
     image.setDevicePixelRatio(devicePixelRatio);
     if (pixels != m_pixels || devicePixelRatio != m_scale)
         prepare(pixels, devicePixelRatio);
+    QRegion written;
+    QRegion needed; // in coarse samples
+    for (const QRect& rect : part.value_or(QRect(QPoint(), size.toSize() + QSize(1, 1)))) {
+        const QRectF inPixels(QPointF(rect.topLeft()) * devicePixelRatio,
+                              QSizeF(rect.size()) * devicePixelRatio);
+        const QRect area = inPixels.toAlignedRect() & image.rect();
+        if (area.isEmpty())
+            continue;
+        const auto first = [](const std::vector<Tap>& taps, int pixel) {
+            return taps[static_cast<std::size_t>(pixel)].first;
+        };
+        written += area;
+        needed += QRect(QPoint(first(m_columnTaps, area.left()), first(m_rowTaps, area.top())),
+                        QPoint(first(m_columnTaps, area.right()) + 3, first(m_rowTaps, area.bottom()) + 3));
+    }
+    const QRegion blurred = grown(needed, kernelReach);
+    const QRegion fine = grown(blurred, 1);
+    const QRegion glowing = grown(fine, 1);
     const std::vector<QPointF> positions = nodePositions(size, time, speed);
-    drawGlows(positions, maxDist);
-    refine();
-    drawLines(positions, maxDist);
-    drawDots(positions);
-    coarsen();
-    blur(m_coarse, m_finalKernel);
-    write(image, scheme);
+    findLinks(positions, maxDist);
+    drawGlows(positions, glowing);
+    refine(fine);
+    drawLines(fine);
+    drawDots(positions, needed);
+    coarsen(blurred);
+    blur(m_coarse, m_finalKernel, needed);
+    write(image, scheme, written);
     return image;
 }
 
@@ -339,7 +375,8 @@ void NeuralNetworkRenderer::prepare(QSize pixels, double scale)
     m_needsFinest = scale >= 1.5;
     m_finest.reshape(m_needsFinest ? 4 * columns : 0, m_needsFinest ? 4 * rows : 0);
     m_line.resize(static_cast<std::size_t>(m_fine.stride()));
-    m_expanded.resize(static_cast<std::size_t>(8 * pixels.width()));
+    m_coarseShares.resize(static_cast<std::size_t>(m_coarse.stride()));
+    m_expanded.resize(8 * static_cast<std::size_t>(std::ceil(2 * scale) * columns));
 
     // On a finer screen the edges of lines are drawn sharper than the fine grid has them.
     const double sharper = (1 - 1 / (scale * scale)) * pixelVariance;
@@ -399,8 +436,23 @@ template <typename Combine>
     }
 }
 
+/// Finds each pair of nodes that are linked, and the opacity of the link.
+void NeuralNetworkRenderer::findLinks(const std::vector<QPointF>& positions, double maxDist)
+{
+    m_links.clear();
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        for (std::size_t j = i + 1; j < positions.size(); ++j) {
+            const QPointF way = positions[j] - positions[i];
+            const double distance = std::sqrt(QPointF::dotProduct(way, way));
+            // Without length there is no line to see, nor a direction.
+            if (distance < maxDist && distance > 0)
+                m_links.push_back({positions[i], positions[j], (1 - distance / maxDist) * linkOpacity});
+        }
+    }
+}
+
 /// Leaves the transmittance of all glows in the coarse plane.
-ARDEO_WIDE void NeuralNetworkRenderer::drawGlows(const std::vector<QPointF>& positions, double maxDist)
+ARDEO_WIDE void NeuralNetworkRenderer::drawGlows(const std::vector<QPointF>& positions, const QRegion& region)
 {
     // One blur for all links: their optical depths add up, and for one link depth and opacity are nearly the
     // same. What the depth has more is proportional to the square of the profile; the constant gives it on
@@ -408,17 +460,19 @@ ARDEO_WIDE void NeuralNetworkRenderer::drawGlows(const std::vector<QPointF>& pos
     const double peak = linkGlowWidth / std::sqrt(2 * std::numbers::pi * linkGlowVariance);
     const auto coarse = [](QPointF point) { return (point - QPointF(1, 1)) / 2; };
     m_coarse.fill(0);
-    forEachLink(positions, maxDist, [&](QPointF from, QPointF to, double opacity) {
+    for (const auto& [from, to, opacity] : m_links) {
         const double depth = opacity * linkGlowOpacity * (1 + 0.35 * peak * opacity * linkGlowOpacity);
         drawLine(
             m_coarse, m_glowProfiles, coarse(from), coarse(to),
             [weight = static_cast<float>(depth)](float& sample, float share) { sample += weight * share; });
-    });
-    blur(m_coarse, m_glowKernel);
-    for (int y = -1; y <= m_coarse.rows(); ++y) {
-        float* const row = m_coarse.row(y);
-        for (int x = -1; x <= m_coarse.columns(); ++x)
-            row[x] = transmittance(row[x]);
+    }
+    blur(m_coarse, m_glowKernel, region);
+    for (const QRect& part : region.intersected(m_coarse.area(1))) {
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            float* const row = m_coarse.row(y);
+            for (int x = part.left(); x <= part.right(); ++x)
+                row[x] = transmittance(row[x]);
+        }
     }
     for (const QPointF& position : positions) {
         const QPointF centre = coarse(position);
@@ -429,44 +483,52 @@ ARDEO_WIDE void NeuralNetworkRenderer::drawGlows(const std::vector<QPointF>& pos
         const int bottom = std::min(m_coarse.rows(), static_cast<int>(std::floor(centre.y() + reach)));
         for (int y = top; y <= bottom; ++y) {
             float* const row = m_coarse.row(y);
-            for (int x = left; x <= right; ++x)
-                row[x] *= glowTransmittance((square(x - centre.x()) + square(y - centre.y())) * coarseCell);
+            const auto centreX = static_cast<float>(centre.x());
+            const auto squareY = static_cast<float>(square(y - centre.y()));
+            for (int x = left; x <= right; ++x) {
+                const float way = static_cast<float>(x) - centreX;
+                row[x] *= glowTransmittance((way * way + squareY) * static_cast<float>(coarseCell));
+            }
         }
     }
 }
 
 /// What a node's glow lets through; a table saves the integral.
-float NeuralNetworkRenderer::glowTransmittance(double squareDistance) const
+inline float NeuralNetworkRenderer::glowTransmittance(float squareDistance) const
 {
-    const auto step = static_cast<std::size_t>(squareDistance * nodeGlowSteps);
-    return step < m_nodeGlow.size() ? m_nodeGlow[step] : 1;
+    return m_nodeGlow[static_cast<std::size_t>(
+        std::min(static_cast<int>(squareDistance * nodeGlowSteps), nodeGlowEnd))];
 }
 
 /// Adds the lines to the fine plane.
-ARDEO_WIDE void NeuralNetworkRenderer::drawLines(const std::vector<QPointF>& positions, double maxDist)
+ARDEO_WIDE void NeuralNetworkRenderer::drawLines(const QRegion& region)
 {
     Plane& plane = m_needsFinest ? m_finest : m_fine;
     const LineProfiles& profiles = m_needsFinest ? m_finestLineProfiles : m_lineProfiles;
     const double density = m_needsFinest ? 2 : 1;
     const QPointF half(0.5, 0.5);
     m_finest.fill(1);
-    forEachLink(positions, maxDist, [&](QPointF from, QPointF to, double opacity) {
+    for (const auto& [from, to, opacity] : m_links) {
         drawLine(plane, profiles, from * density - half, to * density - half,
                  [weight = static_cast<float>(opacity)](float& sample, float share) {
                      sample -= sample * weight * share;
                  });
-    });
-    for (int y = 0; m_needsFinest && y < m_fine.rows(); ++y) {
-        const float* const upper = m_finest.row(2 * y);
-        const float* const lower = m_finest.row(2 * y + 1);
-        float* __restrict const out = m_fine.row(y);
-        for (int x = 0; x < m_fine.columns(); ++x)
-            out[x] *= (upper[2 * x] + upper[2 * x + 1] + lower[2 * x] + lower[2 * x + 1]) / 4;
+    }
+    if (!m_needsFinest)
+        return;
+    for (const QRect& part : region.intersected(m_coarse.area(0))) {
+        for (int y = 2 * part.top(); y < 2 * part.bottom() + 2; ++y) {
+            const float* const upper = m_finest.row(2 * y);
+            const float* const lower = m_finest.row(2 * y + 1);
+            float* __restrict const out = m_fine.row(y);
+            for (int x = 2 * part.left(); x < 2 * part.right() + 2; ++x)
+                out[x] *= (upper[2 * x] + upper[2 * x + 1] + lower[2 * x] + lower[2 * x + 1]) / 4;
+        }
     }
 }
 
 /// The dots take part in the order of the nodes: the few pixels they touch are composed anew, node by node.
-ARDEO_WIDE void NeuralNetworkRenderer::drawDots(const std::vector<QPointF>& positions)
+ARDEO_WIDE void NeuralNetworkRenderer::drawDots(const std::vector<QPointF>& positions, const QRegion& region)
 {
     m_dots.fill(0);
     std::fill(m_dotBlocks.begin(), m_dotBlocks.end(), std::uint8_t{0});
@@ -476,31 +538,45 @@ ARDEO_WIDE void NeuralNetworkRenderer::drawDots(const std::vector<QPointF>& posi
     const auto touches = [](QPointF way) {
         return std::max(std::abs(way.x()), std::abs(way.y())) < dotRadius + 0.5;
     };
-    for (std::size_t node = 0; node < positions.size(); ++node) {
-        const QPointF centre = positions[node];
+    std::vector<QPointF> near;
+    for (const QPointF& centre : positions) {
+        const QPoint coarse = (centre / 2).toPoint();
+        constexpr QPoint reach(kernelReach + 3, kernelReach + 3);
+        if (!region.intersects(QRect(coarse - reach, coarse + reach)))
+            continue;
+        // In their order, the nodes whose glow or dot reaches a pixel of this dot.
+        near.clear();
+        std::size_t earlier = 0;
+        for (const QPointF& position : positions) {
+            const QPointF way = position - centre;
+            if (&position == &centre)
+                earlier = near.size();
+            if (std::max(std::abs(way.x()), std::abs(way.y())) < nodeGlowReach + dotRadius + 1)
+                near.push_back(position);
+        }
         const int bottom = std::min(rows, static_cast<int>(centre.y()) + 3);
         const int right = std::min(columns, static_cast<int>(centre.x()) + 3);
         for (int y = std::max(0, static_cast<int>(centre.y()) - 2); y < bottom; ++y) {
             for (int x = std::max(0, static_cast<int>(centre.x()) - 2); x < right; ++x) {
                 const QPointF pixel(x + 0.5, y + 0.5);
                 if (!touches(pixel - centre) ||
-                    std::any_of(positions.begin(), positions.begin() + static_cast<std::ptrdiff_t>(node),
-                                [&](QPointF earlier) { return touches(pixel - earlier); }))
+                    std::any_of(near.begin(), near.begin() + static_cast<std::ptrdiff_t>(earlier),
+                                [&](QPointF other) { return touches(pixel - other); }))
                     continue; // or else composed already
-                std::array<float, nodes.size()> glows;
+                const auto glowAt = [&](QPointF position) {
+                    const QPointF way = pixel - position;
+                    return glowTransmittance(static_cast<float>(QPointF::dotProduct(way, way)));
+                };
                 float glow = 1;
-                for (std::size_t i = 0; i < positions.size(); ++i) {
-                    const QPointF way = pixel - positions[i];
-                    glows[i] = glowTransmittance(QPointF::dotProduct(way, way));
-                    glow *= glows[i];
-                }
+                for (const QPointF& position : near)
+                    glow *= glowAt(position);
                 float& sample = m_fine.row(y)[x];
                 float through = sample / glow;
                 float dots = 0;
-                for (std::size_t i = 0; i < positions.size(); ++i) {
-                    through *= glows[i];
-                    dots *= glows[i];
-                    const QPointF way = pixel - positions[i];
+                for (const QPointF& position : near) {
+                    through *= glowAt(position);
+                    dots *= glowAt(position);
+                    const QPointF way = pixel - position;
                     if (touches(way)) {
                         const auto dot = static_cast<float>(dotOpacity * dotCoverage(way.x(), way.y()));
                         through = 1 - (1 - through) * (1 - dot);
@@ -536,50 +612,54 @@ void NeuralNetworkRenderer::drawDotPixel(int x, int y, float weight)
                     std::uint8_t{1});
 }
 
-ARDEO_WIDE void NeuralNetworkRenderer::blur(Plane& plane, const Kernel& kernel)
+ARDEO_WIDE void NeuralNetworkRenderer::blur(Plane& plane, const Kernel& kernel, const QRegion& region)
 {
-    constexpr int reach = static_cast<int>(std::tuple_size_v<Kernel>) - 1;
-    const int begin = reach - Plane::margin;
-    const int end = plane.columns() - begin;
     const auto [k0, k1, k2, k3, k4] = kernel;
-    for (int y = -Plane::margin; y < plane.rows() + Plane::margin; ++y) {
-        const float* const in = plane.row(y);
-        float* __restrict const out = m_scratch.row(y);
-        for (int x = begin; x < end; ++x)
-            out[x] = k0 * in[x] + k1 * (in[x - 1] + in[x + 1]) + k2 * (in[x - 2] + in[x + 2]) +
-                     k3 * (in[x - 3] + in[x + 3]) + k4 * (in[x - 4] + in[x + 4]);
+    const QRegion blurred = region & plane.area(Plane::margin - kernelReach);
+    for (const QRect& part : blurred) {
+        for (int y = part.top() - kernelReach; y <= part.bottom() + kernelReach; ++y) {
+            const float* const in = plane.row(y);
+            float* __restrict const out = m_scratch.row(y);
+            for (int x = part.left(); x <= part.right(); ++x)
+                out[x] = k0 * in[x] + k1 * (in[x - 1] + in[x + 1]) + k2 * (in[x - 2] + in[x + 2]) +
+                         k3 * (in[x - 3] + in[x + 3]) + k4 * (in[x - 4] + in[x + 4]);
+        }
     }
     const std::ptrdiff_t next = plane.stride();
-    for (int y = begin; y < plane.rows() - begin; ++y) {
-        const float* const in = m_scratch.row(y);
-        float* __restrict const out = plane.row(y);
-        for (int x = begin; x < end; ++x)
-            out[x] = k0 * in[x] + k1 * (in[x - next] + in[x + next]) +
-                     k2 * (in[x - 2 * next] + in[x + 2 * next]) + k3 * (in[x - 3 * next] + in[x + 3 * next]) +
-                     k4 * (in[x - 4 * next] + in[x + 4 * next]);
+    for (const QRect& part : blurred) {
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            const float* const in = m_scratch.row(y);
+            float* __restrict const out = plane.row(y);
+            for (int x = part.left(); x <= part.right(); ++x)
+                out[x] = k0 * in[x] + k1 * (in[x - next] + in[x + next]) +
+                         k2 * (in[x - 2 * next] + in[x + 2 * next]) +
+                         k3 * (in[x - 3 * next] + in[x + 3 * next]) +
+                         k4 * (in[x - 4 * next] + in[x + 4 * next]);
+        }
     }
 }
 
 /// Brings the coarse plane to the fine one, linearly.
-ARDEO_WIDE void NeuralNetworkRenderer::refine()
+ARDEO_WIDE void NeuralNetworkRenderer::refine(const QRegion& region)
 {
-    const int columns = m_coarse.columns();
     float* __restrict const line = m_line.data() + 1;
-    for (int y = 0; y < m_fine.rows(); ++y) {
-        const float* const near = m_coarse.row(y / 2);
-        const float* const far = m_coarse.row(y / 2 + (y % 2 == 0 ? -1 : 1));
-        for (int x = -1; x <= columns; ++x)
-            line[x] = 0.75F * near[x] + 0.25F * far[x];
-        float* __restrict const out = m_fine.row(y);
-        for (int x = 0; x < columns; ++x) {
-            out[2 * x] = 0.25F * line[x - 1] + 0.75F * line[x];
-            out[2 * x + 1] = 0.75F * line[x] + 0.25F * line[x + 1];
+    for (const QRect& part : region.intersected(m_coarse.area(0))) {
+        for (int y = 2 * part.top(); y < 2 * part.bottom() + 2; ++y) {
+            const float* const near = m_coarse.row(y / 2);
+            const float* const far = m_coarse.row(y / 2 + (y % 2 == 0 ? -1 : 1));
+            for (int x = part.left() - 1; x <= part.right() + 1; ++x)
+                line[x] = 0.75F * near[x] + 0.25F * far[x];
+            float* __restrict const out = m_fine.row(y);
+            for (int x = part.left(); x <= part.right(); ++x) {
+                out[2 * x] = 0.25F * line[x - 1] + 0.75F * line[x];
+                out[2 * x + 1] = 0.75F * line[x] + 0.25F * line[x + 1];
+            }
         }
     }
 }
 
 /// Brings the opacity of the fine plane to the coarse one. The canvas ends at its edges.
-ARDEO_WIDE void NeuralNetworkRenderer::coarsen()
+ARDEO_WIDE void NeuralNetworkRenderer::coarsen(const QRegion& region)
 {
     const double width = m_pixels.width() / m_scale;
     const double height = m_pixels.height() / m_scale;
@@ -602,71 +682,117 @@ ARDEO_WIDE void NeuralNetworkRenderer::coarsen()
     }
 
     m_coarse.fill(0);
-    const int columns = m_coarse.columns();
     float* __restrict const line = m_line.data() + Plane::margin;
-    for (int y = -1; y <= m_coarse.rows(); ++y) {
-        const float* const before = m_fine.row(2 * y - 1);
-        const float* const first = m_fine.row(2 * y);
-        const float* const second = m_fine.row(2 * y + 1);
-        const float* const after = m_fine.row(2 * y + 2);
-        for (int x = -3; x < 2 * columns + 3; ++x)
-            line[x] = 0.125F * (before[x] + after[x]) + 0.375F * (first[x] + second[x]);
-        float* __restrict const out = m_coarse.row(y);
-        for (int x = -1; x <= columns; ++x)
-            out[x] =
-                1 - (0.125F * (line[2 * x - 1] + line[2 * x + 2]) + 0.375F * (line[2 * x] + line[2 * x + 1]));
+    for (const QRect& part : region.intersected(m_coarse.area(1))) {
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            const float* const before = m_fine.row(2 * y - 1);
+            const float* const first = m_fine.row(2 * y);
+            const float* const second = m_fine.row(2 * y + 1);
+            const float* const after = m_fine.row(2 * y + 2);
+            for (int x = 2 * part.left() - 1; x <= 2 * part.right() + 2; ++x)
+                line[x] = 0.125F * (before[x] + after[x]) + 0.375F * (first[x] + second[x]);
+            float* __restrict const out = m_coarse.row(y);
+            for (int x = part.left(); x <= part.right(); ++x)
+                out[x] = 1 - (0.125F * (line[2 * x - 1] + line[2 * x + 2]) +
+                              0.375F * (line[2 * x] + line[2 * x + 1]));
+        }
+    }
+}
+
+/// Brings coarse samples to the pixels of a row, where a sample stands for that many whole pixels.
+template <int pixels>
+[[gnu::always_inline]] inline void NeuralNetworkRenderer::expandWhole(const Share* in, Share* __restrict out,
+                                                                      int from, int to) const
+{
+    std::array<Tap, pixels> taps;
+    std::copy_n(m_columnTaps.begin(), pixels, taps.begin());
+    for (int x = from / pixels; x < (to + pixels - 1) / pixels; ++x) {
+        for (int i = 0; i < pixels; ++i) {
+            const auto& [first, weights] = taps[static_cast<std::size_t>(i)];
+            const Share* const at = in + x + first;
+            out[x * pixels + i] = between(at[0], at[1], at[2], at[3], weights);
+        }
+    }
+}
+
+/// Brings coarse samples to the pixels of a row, at any scale.
+[[gnu::always_inline]] inline void NeuralNetworkRenderer::expand(const Share* in, Share* __restrict out,
+                                                                 int from, int to) const
+{
+    if (m_scale == 1 && m_pixels.width() >= 2)
+        return expandWhole<2>(in, out, from, to);
+    if (m_scale == 2 && m_pixels.width() >= 4)
+        return expandWhole<4>(in, out, from, to);
+    for (int x = from; x < to; ++x) {
+        const auto& [first, weights] = m_columnTaps[static_cast<std::size_t>(x)];
+        const Share* const at = in + first;
+        out[x] = between(at[0], at[1], at[2], at[3], weights);
     }
 }
 
 /// Brings the coarse planes to device pixels, by cubic splines.
-ARDEO_WIDE void NeuralNetworkRenderer::write(QImage& image, ColorScheme scheme)
+ARDEO_WIDE void NeuralNetworkRenderer::write(QImage& image, ColorScheme scheme, const QRegion& region)
 {
     const Palette& palette = scheme == ColorScheme::dark ? darkPalette : lightPalette;
-    const int width = image.width();
     const std::size_t blocks = m_blockEnds.size();
-    const auto expandedLinks = [&](int row) { return m_expanded.data() + (row & 3) * width; };
-    const auto expandedDots = [&](int row) { return m_expanded.data() + (4 + (row & 3)) * width; };
+    const auto stride = static_cast<std::ptrdiff_t>(m_expanded.size() / 8);
+    const auto expandedLinks = [&](int row) { return m_expanded.data() + (row & 3) * stride; };
+    const auto expandedDots = [&](int row) { return m_expanded.data() + (4 + (row & 3)) * stride; };
     const auto marks = [&](int row) {
         return m_dotBlocks.data() + static_cast<std::size_t>(row + Plane::margin) * blocks;
     };
-    const auto expand = [&](const float* in, float* __restrict out, int from, int to) {
-        for (int x = from; x < to; ++x) {
-            const Tap& tap = m_columnTaps[static_cast<std::size_t>(x)];
-            const float* const at = in + tap.first;
-            out[x] = at[0] * tap.weights[0] + at[1] * tap.weights[1] + at[2] * tap.weights[2] +
-                     at[3] * tap.weights[3];
-        }
+    Share* const line = m_coarseShares.data() + Plane::margin;
+    const auto takeLine = [&](const float* row) {
+        for (int x = -Plane::margin; x < m_coarse.columns() + Plane::margin; ++x)
+            line[x] = static_cast<Share>(std::max(row[x], 0.0F) * wholeSample + 0.5F);
     };
     int expanded = m_rowTaps.front().first;
-    for (int y = 0; y < image.height(); ++y) {
-        const auto& [first, weights] = m_rowTaps[static_cast<std::size_t>(y)];
-        for (; expanded <= first + 3; ++expanded) {
-            expand(m_coarse.row(expanded), expandedLinks(expanded), 0, width);
-            for (std::size_t block = 0; block < blocks; ++block) {
-                if (marks(expanded)[block] || marks(expanded - 1)[block] || marks(expanded - 2)[block] ||
-                    marks(expanded - 3)[block])
-                    expand(m_dots.row(expanded), expandedDots(expanded),
-                           block == 0 ? 0 : m_blockEnds[block - 1], m_blockEnds[block]);
+    int taken = expanded - 1;
+    for (auto part = region.begin(); part != region.end();) {
+        // Rectangles one beside the other share their rows.
+        const auto band = part;
+        part =
+            std::find_if(band, region.end(), [&](const QRect& other) { return other.top() > band->top(); });
+        for (int y = band->top(); y <= band->bottom(); ++y) {
+            const auto& [first, weights] = m_rowTaps[static_cast<std::size_t>(y)];
+            for (expanded = std::max(expanded, first); expanded <= first + 3; ++expanded) {
+                takeLine(m_coarse.row(expanded));
+                expand(line, expandedLinks(expanded), 0, image.width());
+                takeLine(m_dots.row(expanded));
+                for (std::size_t block = 0; block < blocks; ++block) {
+                    if (marks(expanded)[block] || marks(expanded - 1)[block] || marks(expanded - 2)[block] ||
+                        marks(expanded - 3)[block])
+                        expand(line, expandedDots(expanded), block == 0 ? 0 : m_blockEnds[block - 1],
+                               m_blockEnds[block]);
+                }
             }
-        }
-        std::array<const float*, 4> links;
-        std::array<const float*, 4> dots;
-        for (int i = 0; i < 4; ++i) {
-            links[static_cast<std::size_t>(i)] = expandedLinks(first + i);
-            dots[static_cast<std::size_t>(i)] = expandedDots(first + i);
-        }
-        auto* const out = reinterpret_cast<std::uint32_t*>(image.scanLine(y));
-        const std::uint8_t* const marked = marks(first);
-        int from = 0;
-        for (std::size_t block = 0; block < blocks; ++block) {
-            if (block + 1 < blocks && marked[block + 1] == marked[block])
-                continue;
-            const int to = m_blockEnds[block];
-            if (marked[block])
-                writeRow<true>(out, from, to, links, dots, weights, palette);
-            else
-                writeRow<false>(out, from, to, links, dots, weights, palette);
-            from = to;
+            if (std::exchange(taken, first) != first) {
+                m_runs.clear();
+                for (std::size_t block = 0; block < blocks; ++block) {
+                    const bool withDots = marks(first)[block] != 0;
+                    if (m_runs.empty() || m_runs.back().withDots != withDots)
+                        m_runs.push_back({m_blockEnds[block], withDots});
+                    m_runs.back().end = m_blockEnds[block];
+                }
+            }
+            std::array<const Share*, 4> links;
+            std::array<const Share*, 4> dots;
+            for (int i = 0; i < 4; ++i) {
+                links[static_cast<std::size_t>(i)] = expandedLinks(first + i);
+                dots[static_cast<std::size_t>(i)] = expandedDots(first + i);
+            }
+            auto* const out = reinterpret_cast<std::uint32_t*>(image.scanLine(y));
+            for (auto rect = band; rect != part; ++rect) {
+                int from = rect->left();
+                for (const auto& [end, withDots] : m_runs) {
+                    const int to = std::min(end, rect->right() + 1);
+                    if (withDots)
+                        writeRow<true>(out, from, to, links, dots, weights, palette);
+                    else
+                        writeRow<false>(out, from, to, links, dots, weights, palette);
+                    from = std::max(from, to);
+                }
+            }
         }
     }
 }

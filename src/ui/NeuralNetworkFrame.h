@@ -2,10 +2,12 @@
 
 #include <QImage>
 #include <QPointF>
+#include <QRegion>
 #include <QSizeF>
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -14,6 +16,9 @@ namespace ardeo
 
 /// The two ways the desktop can look.
 enum class ColorScheme { light, dark };
+
+/// A part of 1, in 65536ths: in 16 bits, twice as many are computed at once as in floating point.
+using Share = std::uint16_t;
 
 /// The curve of one node: angular frequencies in radians per scaled second, phases in radians.
 struct NodeParam {
@@ -35,9 +40,9 @@ class NeuralNetworkRenderer
 public:
     NeuralNetworkRenderer();
     /// A frame on transparent ground; a null image for an empty size. The time counts in seconds since
-    /// 1 January 2001 UTC.
+    /// 1 January 2001 UTC. If only a part is asked for, given in points, the pixels of the rest mean nothing.
     QImage render(QSizeF size, double time, ColorScheme scheme, double maxDist, double speed,
-                  qreal devicePixelRatio);
+                  qreal devicePixelRatio, const std::optional<QRegion>& part = std::nullopt);
 
 private:
     /// A grid of samples with a margin all around, for what reaches over the edge.
@@ -51,6 +56,8 @@ private:
         int columns() const { return m_columns; }
         int rows() const { return m_rows; }
         std::ptrdiff_t stride() const { return m_stride; }
+        /// All samples, and so many of the margin.
+        QRect area(int border) const;
 
     private:
         int m_columns = 0;
@@ -75,10 +82,22 @@ private:
     };
     /// One half of a symmetric kernel, the middle first.
     using Kernel = std::array<float, 5>;
+    static constexpr int kernelReach = 4;
     /// Four neighbouring coarse samples and their shares in one device pixel.
     struct Tap {
         int first;
-        std::array<float, 4> weights;
+        std::array<Share, 4> weights;
+    };
+    struct Link {
+        QPointF from;
+        QPointF to;
+        double opacity;
+    };
+
+    /// Neighbouring pixels of a row that are all near a dot, or all not.
+    struct Run {
+        int end;
+        bool withDots;
     };
 
     static Kernel kernelOf(double variance);
@@ -87,15 +106,21 @@ private:
     static void drawLine(Plane& plane, const LineProfiles& profiles, QPointF from, QPointF to,
                          Combine combine);
     void prepare(QSize pixels, double scale);
-    void drawGlows(const std::vector<QPointF>& positions, double maxDist);
-    void drawLines(const std::vector<QPointF>& positions, double maxDist);
-    void drawDots(const std::vector<QPointF>& positions);
+    void findLinks(const std::vector<QPointF>& positions, double maxDist);
+    // What follows leaves right values in a region, which counts in coarse samples; the rest is as it
+    // happens.
+    void drawGlows(const std::vector<QPointF>& positions, const QRegion& region);
+    void drawLines(const QRegion& region);
+    void drawDots(const std::vector<QPointF>& positions, const QRegion& region);
     void drawDotPixel(int x, int y, float weight);
-    void blur(Plane& plane, const Kernel& kernel);
-    void refine();
-    void coarsen();
-    float glowTransmittance(double squareDistance) const;
-    void write(QImage& image, ColorScheme scheme);
+    void blur(Plane& plane, const Kernel& kernel, const QRegion& region);
+    void refine(const QRegion& region);
+    void coarsen(const QRegion& region);
+    float glowTransmittance(float squareDistance) const;
+    template <int pixels>
+    void expandWhole(const Share* in, Share* out, int from, int to) const;
+    void expand(const Share* in, Share* out, int from, int to) const;
+    void write(QImage& image, ColorScheme scheme, const QRegion& region);
 
     const LineProfiles m_lineProfiles;
     const LineProfiles m_finestLineProfiles;
@@ -111,6 +136,7 @@ private:
     std::vector<Tap> m_rowTaps;
     std::vector<int> m_blockEnds;
 
+    std::vector<Link> m_links;
     Plane m_coarse;
     Plane m_scratch;
     Plane m_dots;
@@ -118,8 +144,10 @@ private:
     Plane m_finest;
     bool m_needsFinest = false;
     std::vector<float> m_line;
-    std::vector<float> m_expanded;
+    std::vector<Share> m_coarseShares;
+    std::vector<Share> m_expanded;
     std::vector<std::uint8_t> m_dotBlocks;
+    std::vector<Run> m_runs;
 };
 
 } // namespace ardeo

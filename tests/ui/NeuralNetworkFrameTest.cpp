@@ -40,7 +40,17 @@ private Q_SLOTS:
         QCOMPARE(image.devicePixelRatio(), scale);
         const int difference = literalFrame(size, time, scheme, scale).differenceFrom(image);
         QVERIFY2(difference <= 2, QByteArray::number(difference));
-        // What was drawn before leaves no trace.
+        // What was drawn before leaves no trace, and a part is as it is in the whole.
+        const QSize step = (size / 12).toSize() * 4; // whole pixels at any scale
+        const QRect left(QPoint(), step);
+        const QRect right(QPoint(step.width(), step.height()), step);
+        m_renderer.render(size, time + 9, scheme, 220, 0.25, scale, right);
+        const QImage parts = m_renderer.render(size, time, scheme, 220, 0.25, scale, QRegion(left) + right);
+        for (const QRect part : {left, right}) {
+            const QRect pixels = QRect(part.topLeft() * scale, part.size() * scale) & image.rect();
+            if (!pixels.isEmpty()) // which means everything to copy()
+                QCOMPARE(parts.copy(pixels), image.copy(pixels));
+        }
         QCOMPARE(image, NeuralNetworkRenderer().render(size, time, scheme, 220, 0.25, scale));
     }
 
