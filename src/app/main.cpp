@@ -10,8 +10,12 @@
 #include <QApplication>
 #include <QCommandLineParser>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
+#include <string_view>
 
 using namespace ardeo;
 using namespace std::chrono_literals;
@@ -21,14 +25,25 @@ namespace
 
 constexpr auto settlingTime = 100ms;
 
+/// Whether an argument asks for the help or the version, which need no display.
+bool asksForText(int argc, char** argv)
+{
+    static constexpr std::array options{"-h", "--help", "--help-all", "-v", "--version"};
+    return std::any_of(argv + 1, argv + argc, [](const char* argument) {
+        return std::ranges::find(options, std::string_view(argument)) != options.end();
+    });
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Ardeo IP Config"));
-    QApplication::setApplicationVersion(QStringLiteral(ARDEO_VERSION));
-    QApplication::setDesktopFileName(QLatin1String(applicationIdentifier));
+    const bool isText = argc > 1 && asksForText(argc, argv);
+    const auto application = isText ? std::unique_ptr<QCoreApplication>(new QCoreApplication(argc, argv))
+                                    : std::unique_ptr<QCoreApplication>(new QApplication(argc, argv));
+    QCoreApplication::setApplicationName(QStringLiteral("Ardeo IP Config"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ARDEO_VERSION));
+    QGuiApplication::setDesktopFileName(QLatin1String(applicationIdentifier));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -42,7 +57,7 @@ int main(int argc, char** argv)
     const QCommandLineOption state(QStringLiteral("state"), QStringLiteral("The simulated machine's file."),
                                    QStringLiteral("FILE"));
     parser.addOptions({version, system, state});
-    parser.process(application);
+    parser.process(*application);
 
     const auto choice = systemChoiceFromText(parser.value(system));
     if (!choice) {
@@ -50,10 +65,14 @@ int main(int argc, char** argv)
         return 2;
     }
     const auto file = parser.isSet(state) ? std::optional(parser.value(state)) : std::nullopt;
-    Platform platform = platformFor(*choice, file, QApplication::applicationFilePath());
+    Platform platform = platformFor(*choice, file, QCoreApplication::applicationFilePath());
     if (parser.isSet(version)) {
         std::printf("ardeo-ip-config %s on %s\n", ARDEO_VERSION, platform.description.toUtf8().constData());
         return 0;
+    }
+    if (isText) {
+        std::fputs("An option's value that is an option's name is written with =.\n", stderr);
+        return 2;
     }
 
     DesktopApplication desktopApplication;
@@ -78,7 +97,7 @@ int main(int argc, char** argv)
     // What the first window does not need waits until that is up.
     std::optional<MenuBarMenuView> menu;
     std::optional<MenuBarExtra> menuBarExtra;
-    platform.clock->sleep(settlingTime).then(&application, [&] {
+    platform.clock->sleep(settlingTime).then(application.get(), [&] {
         QApplication::setWindowIcon(applicationIcon());
         menu.emplace(*app.vm, app.appDelegate, app.notifications, platform);
         menuBarExtra.emplace(*menu, app.appDelegate, *platform.clock,
