@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QDirIterator>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace ardeo;
 
@@ -35,7 +34,7 @@ public:
     explicit Invention(const QByteArray& input) : m_input(input) {}
     bool atEnd() const { return m_at >= m_input.size(); }
     /// A number below the limit, which is at most 256.
-    int number(int limit) { return static_cast<uchar>(m_input.mid(m_at++, 1).append('\0').front()) % limit; }
+    int number(int limit) { return atEnd() ? 0 : static_cast<uchar>(m_input.at(m_at++)) % limit; }
     QString word() { return words.at(number(static_cast<int>(words.size()))); }
     QString text()
     {
@@ -50,13 +49,11 @@ public:
     /// A value that a system could hand out, of the right kind or of a wrong one.
     QVariant value(int depth = 3)
     {
-        const QVariantList simple{{},  number(2) == 1,  qint64(number(256)) << 40,
-                                  2.5, QByteArray("x"), text()};
+        const std::array<QVariant, 6> simple{QVariant(), number(2) == 1, qint64(number(256)) << 40,
+                                             2.5,        "x"_ba,         text()};
         const int kind = number(depth > 0 ? 9 : 6);
-        if (kind < simple.size())
-            return simple.at(kind);
-        if (kind == 6)
-            return dictionary(depth - 1);
+        if (kind <= 6)
+            return kind == 6 ? dictionary(depth - 1) : simple.at(static_cast<size_t>(kind));
         QVariantList list;
         for (int left = number(4); left > 0; --left)
             list.append(kind == 7 ? text() : value(depth - 1));
@@ -93,24 +90,23 @@ void profiles(const QByteArray& input)
 void machine(const QByteArray& input)
 {
     static const QTemporaryDir folder;
-    static const SimulatedMachine machine(folder.filePath(u"machine.json"_s));
-    static SimulatedConfiguration system(machine);
+    static QFile file(folder.filePath(u"machine.json"_s));
+    static SimulatedConfiguration system{SimulatedMachine(file.fileName())};
     static NetworkConfigService service(system);
-    QFile file(machine.file());
-    promise(file.open(QIODevice::WriteOnly) && file.write(input) == input.size() && file.flush());
-    const bool readable = machine.read().has_value();
+    promise(file.open(QIODevice::WriteOnly) && file.write(input) == input.size());
+    file.close();
     const QList<AdapterInfo> adapters = service.listAdapters().result();
     const Text name = adapters.isEmpty() ? Text() : adapters.constLast().serviceName;
     NetworkAdapterInfo settings = service.currentConfig(name).result();
-    for (const IPv4Mode mode : ModeTexts<IPv4Mode>::allCases) {
-        settings.ipv4Mode = mode;
-        try {
+    try {
+        service.setServiceEnabled(input.size() % 2 == 0, name, AuthorizationRef{1}).waitForFinished();
+        for (const IPv4Mode mode : ModeTexts<IPv4Mode>::allCases) {
+            settings.ipv4Mode = mode;
             service.writeConfiguration(name, settings, AuthorizationRef{1}).waitForFinished();
-            service.setServiceEnabled(input.size() % 2 == 0, name, AuthorizationRef{1}).waitForFinished();
             promise(service.currentConfig(name).result().ipv4Mode == mode);
-        } catch (const ConfigError&) {
-            promise(machine.read().has_value() == readable);
         }
+    } catch (const ConfigError&) {
+        promise(!adapters.isEmpty() || file.size() == input.size());
     }
     promise(service.listAdapters().result().size() == adapters.size());
 }
@@ -152,15 +148,18 @@ void dictionaries(const QByteArray& input)
     promise(!dns || !dns->serverAddresses.contains(QString()));
 }
 
-/// Keys, pastes and assignments in any order: each octet stays one, and the bound text follows.
+/// Digits, pastes and assignments in any order: each octet stays one, and the bound text follows.
 void octets(const QByteArray& input)
 {
-    static int count = 0;
-    static const auto* application = new QApplication(count, nullptr);
-    promise(application);
-    Observed<Text> value;
-    IPAddressField field(value, u"192.168.1.1"_s, u"IP Address:"_s);
-    Invention invention(input);
+    [[maybe_unused]] static const auto& application = *new QApplication(*new int(), nullptr);
+    // One field for all inputs: making one takes far longer than most of them.
+    static auto& value = *new Observed<Text>;
+    static auto& field = *new IPAddressField(value, u"192.168.1.1"_s, u"IP Address:"_s);
+    value = Text();
+    QCoreApplication::sendPostedEvents();
+    for (int i = 0; i < 4; ++i)
+        field.octet(i)->setText({}); // there is nothing to undo any more
+    Invention invention(input.left(128));
     QLineEdit* octet = field.octet(0);
     const std::array<std::function<void()>, 7> operations{
         [&] { octet = field.octet(invention.number(4)); },
@@ -169,12 +168,12 @@ void octets(const QByteArray& input)
         [&] { octet->setCursorPosition(invention.number(4)); },
         [&] { octet->undo(); },
         [&] { octet->backspace(); },
-        [&] { QTest::keyClick(octet, static_cast<char>('0' + invention.number(10))); }};
+        [&] { octet->insert(QString::number(invention.number(10))); }};
     while (!invention.atEnd()) {
         operations.at(static_cast<size_t>(invention.number(7)))();
-        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents();
         for (int i = 0; i < 4; ++i) {
-            const QString part = field.currentParts().at(static_cast<size_t>(i));
+            const QString& part = field.currentParts().at(static_cast<size_t>(i));
             promise(part.toUcs4().size() <= 3 && part.toInt() <= 255 && field.octet(i)->text() == part);
             promise(value.value().string().split(u'.').value(i) == part);
         }
