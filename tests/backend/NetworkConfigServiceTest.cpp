@@ -87,88 +87,69 @@ private Q_SLOTS:
         QVERIFY(service.listAdapters().result().isEmpty());
     }
 
-    void liveStateOfAnotherKindCountsAsMissing_data()
+    void liveStateOfAnotherKindCountsAsMissing()
     {
-        QTest::addColumn<QVariant>("live");
-        QTest::addColumn<QVariant>("link");
-        QTest::addColumn<QString>("read");
-        const auto row = [](const char* name, const QVariant& live, const QVariant& link, const char* read) {
-            QTest::newRow(name) << live << link << QString(QLatin1String(read));
+        const auto check = [](const QVariant& live, const QVariant& link, const char* expected) {
+            FakeSystemConfiguration system;
+            system.services = {wifi()};
+            system.state = {{wifiState, live}, {wifiLink, link}};
+            NetworkConfigService service(system);
+            const AdapterInfo read = service.listAdapters().result().first();
+            const QString duplex = read.fullDuplex ? (*read.fullDuplex ? u"full"_s : u"half"_s) : u"?"_s;
+            const QString speed = read.linkSpeedMbps ? QString::number(*read.linkSpeedMbps) : u"?"_s;
+            const QString activity = read.isActive ? u"active"_s : u"inactive"_s;
+            QCOMPARE((QStringList{activity, speed, duplex}.join(u' ')), QLatin1String(expected));
         };
         const auto link = [](const QVariant& active, const QVariant& speed, const QVariant& duplex) {
             return QVariantMap{{u"Active"_s, active}, {u"Speed"_s, speed}, {u"Duplex"_s, duplex}};
         };
         const QVariantMap up = link(true, 1000, false);
-        row("all there", QVariantMap{{addresses, QVariantList{u"1.2.3.4"_s}}}, up, "active 1000 half");
-        row("empty list", QVariantMap{{addresses, QStringList()}}, up, "inactive 1000 half");
-        row("mixed list", QVariantMap{{addresses, QVariantList{u"1.2.3.4"_s, 5}}}, up, "inactive 1000 half");
-        row("texts for dictionaries", u"x"_s, u"x"_s, "inactive ? ?");
-        row("link down", {}, link(false, 1000, true), "inactive ? ?");
-        row("1 is not true", {}, link(1, 1000, true), "inactive ? ?");
-        row("true is not a speed", {}, link(true, true, 1), "inactive ? ?");
-        row("fractional speed", {}, link(true, 2.5, true), "inactive ? full");
-    }
-    void liveStateOfAnotherKindCountsAsMissing()
-    {
-        QFETCH(QVariant, live);
-        QFETCH(QVariant, link);
-        FakeSystemConfiguration system;
-        system.services = {wifi()};
-        system.state = {{wifiState, live}, {wifiLink, link}};
-        NetworkConfigService service(system);
-        const AdapterInfo read = service.listAdapters().result().first();
-        const QString duplex = read.fullDuplex ? (*read.fullDuplex ? u"full"_s : u"half"_s) : u"?"_s;
-        const QString speed = read.linkSpeedMbps ? QString::number(*read.linkSpeedMbps) : u"?"_s;
-        const QString activity = read.isActive ? u"active"_s : u"inactive"_s;
-        QTEST((QStringList{activity, speed, duplex}.join(u' ')), "read");
+        check(QVariantMap{{addresses, QVariantList{u"1.2.3.4"_s}}}, up, "active 1000 half");
+        check(QVariantMap{{addresses, QStringList()}}, up, "inactive 1000 half");
+        check(QVariantMap{{addresses, QVariantList{u"1.2.3.4"_s, 5}}}, up, "inactive 1000 half");
+        check(u"x"_s, u"x"_s, "inactive ? ?");
+        check({}, link(false, 1000, true), "inactive ? ?");
+        check({}, link(1, 1000, true), "inactive ? ?"); // 1 is not true, and true is no number
+        check({}, link(true, true, 1), "inactive ? ?");
+        check({}, link(true, 2.5, true), "inactive ? full");
     }
 
-    void configurationIsRead_data()
+    void configurationIsRead()
     {
-        QTest::addColumn<QVariant>("ipv4");
-        QTest::addColumn<QVariant>("live");
-        QTest::addColumn<QVariant>("dns");
-        QTest::addColumn<QString>("read");
+        const auto check = [](const QVariant& ipv4, const QVariant& live, const QVariant& dns,
+                              const char* expected) {
+            FakeSystemConfiguration system;
+            Service service = wifi();
+            service.protocols = {{u"IPv4"_s, ipv4}, {u"DNS"_s, dns}};
+            system.services = {service};
+            system.state = {{wifiState, live},
+                            {wifiLease, QVariantMap{{u"ServerAddress"_s, u"9.9.9.254"_s}}}};
+            NetworkConfigService backend(system);
+            const auto read = backend.currentConfig(u"Wi-Fi"_s).result();
+            const QStringList found(read.searchDomains.begin(), read.searchDomains.end());
+            QCOMPARE(
+                (QStringList{rawValue(read.ipv4Mode), read.ipAddress, read.subnetMask, read.router,
+                             rawValue(read.dnsMode), read.primaryDNS, read.alternateDNS, found.join(u'+')}
+                     .join(u' ')),
+                QLatin1String(expected));
+            QCOMPARE(read.dhcpServer, Text(u"9.9.9.254"_s));
+            QCOMPARE(read.computerName, Text(u"Test Machine"_s));
+            const auto unknown = backend.currentConfig(u"wi-fi"_s).result();
+            QCOMPARE(unknown.computerName, Text(u"Test Machine"_s));
+            QVERIFY(unknown.dhcpServer.isEmpty() && unknown.ipAddress.isEmpty());
+        };
         const QVariantMap live{{addresses, QStringList(u"9.9.9.9"_s)}, {router, u"9.9.9.1"_s}};
         const QVariantMap saved{{addresses, QStringList(u"1.1.1.2"_s)}, {masks, QStringList(u"255.0.0.0"_s)}};
         QVariantMap manual = saved;
         manual[method] = u"Manual"_s;
         const QVariantMap three{{servers, QStringList{u"8.8.8.8"_s, u"8.8.4.4"_s, u"1.1.1.1"_s}},
                                 {domains, QStringList{u"corp.example"_s, u"lab.example"_s}}};
-        const auto row = [](const char* name, const QVariant& ipv4, const QVariant& state,
-                            const QVariant& dns, const char* read) {
-            QTest::newRow(name) << ipv4 << state << dns << QString::fromLatin1(read);
-        };
-        row("manual ignores the live state", manual, live, {}, "Manual 1.1.1.2 255.0.0.0  Automatic   ");
-        row("live values go first", saved, live, {}, "DHCP 9.9.9.9 255.0.0.0 9.9.9.1 Automatic   ");
-        row("DHCP that is down", QVariantMap{{method, u"DHCP"_s}}, {}, {}, "DHCP    Automatic   ");
-        row("other kinds", QVariantMap{{method, true}, {addresses, 1}}, QVariantMap{{router, 5}}, u"x"_s,
-            "DHCP    Automatic   ");
-        row("three servers", {}, {}, three, "DHCP    Manual 8.8.8.8 8.8.4.4 corp.example+lab.example");
-        row("domains alone", {}, {}, QVariantMap{{domains, QStringList(u"a"_s)}}, "DHCP    Automatic   a");
-    }
-    void configurationIsRead()
-    {
-        QFETCH(QVariant, ipv4);
-        QFETCH(QVariant, live);
-        QFETCH(QVariant, dns);
-        FakeSystemConfiguration system;
-        Service service = wifi();
-        service.protocols = {{u"IPv4"_s, ipv4}, {u"DNS"_s, dns}};
-        system.services = {service};
-        system.state = {{wifiState, live}, {wifiLease, QVariantMap{{u"ServerAddress"_s, u"9.9.9.254"_s}}}};
-        NetworkConfigService backend(system);
-        const auto read = backend.currentConfig(u"Wi-Fi"_s).result();
-        QTEST((QStringList{rawValue(read.ipv4Mode), read.ipAddress, read.subnetMask, read.router,
-                           rawValue(read.dnsMode), read.primaryDNS, read.alternateDNS,
-                           QStringList(read.searchDomains.begin(), read.searchDomains.end()).join(u'+')}
-                   .join(u' ')),
-              "read");
-        QCOMPARE(read.dhcpServer, Text(u"9.9.9.254"_s));
-        QCOMPARE(read.computerName, Text(u"Test Machine"_s));
-        const auto unknown = backend.currentConfig(u"wi-fi"_s).result();
-        QCOMPARE(unknown.computerName, Text(u"Test Machine"_s));
-        QVERIFY(unknown.dhcpServer.isEmpty() && unknown.ipAddress.isEmpty());
+        check(manual, live, {}, "Manual 1.1.1.2 255.0.0.0  Automatic   ");     // ignores the live state
+        check(saved, live, {}, "DHCP 9.9.9.9 255.0.0.0 9.9.9.1 Automatic   "); // live values go first
+        check(QVariantMap{{method, true}, {addresses, 1}}, QVariantMap{{router, 5}}, u"x"_s,
+              "DHCP    Automatic   ");
+        check({}, {}, three, "DHCP    Manual 8.8.8.8 8.8.4.4 corp.example+lab.example");
+        check({}, {}, QVariantMap{{domains, QStringList(u"a"_s)}}, "DHCP    Automatic   a");
     }
 
     void dictionariesAreWrittenExactly()
@@ -200,62 +181,34 @@ private Q_SLOTS:
               {});
     }
 
-    void everyStepFailsInItsOwnWay_data()
-    {
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QString>("calls");
-        QTest::newRow("open") << "Cannot open system network preferences."
-                              << "open";
-        QTest::newRow("lock") << "Cannot acquire preferences lock (SC 1003)."
-                              << "open,lock";
-        QTest::newRow("set") << "Service 'Wi-Fi' not found."
-                             << "open,lock,unlock";
-        QTest::newRow("service") << "Service 'Wi-Fi' not found."
-                                 << "open,lock,unlock";
-        QTest::newRow("IPv4") << "Protocol IPv4 unavailable."
-                              << "open,lock,unlock";
-        QTest::newRow("DNS") << ""
-                             << "open,lock,set IPv4,commit,apply,unlock";
-        QTest::newRow("set IPv4") << ""
-                                  << "open,lock,set IPv4,set DNS,commit,apply,unlock";
-        QTest::newRow("commit") << "Cannot save changes (SC 1003)."
-                                << "open,lock,set IPv4,set DNS,commit,unlock";
-        QTest::newRow("apply") << "Cannot apply changes (SC 1003)."
-                               << "open,lock,set IPv4,set DNS,commit,apply,unlock";
-        QTest::newRow("keeping DNS") << ""
-                                     << "open,lock,set IPv4,commit,apply,unlock";
-    }
     void everyStepFailsInItsOwnWay()
     {
-        const QString refused = QString::fromLatin1(QTest::currentDataTag());
-        FakeSystemConfiguration system;
-        system.services = {wifi()};
-        system.preferencesAvailable = refused != u"open"_s;
-        system.setAvailable = refused != u"set"_s;
-        if (refused == u"service"_s)
-            system.services = {named("Ethernet"), Service{}};
-        system.services->first().protocols.remove(refused);
-        system.refusals[refused] = 1003;
-        system.refusals[u"unlock"_s] = -5; // too late to be the reason for anything
-        NetworkConfigService service(system);
-        const auto dns = refused == u"keeping DNS"_s ? NetworkConfigService::DNSHandling::keep
-                                                     : NetworkConfigService::DNSHandling::replace;
-        const QString message = failureOf(service.writeConfiguration(u"Wi-Fi"_s, {}, {1}, dns));
-        QTEST(message, "message");
-        QTEST(system.calls.join(u','), "calls");
-    }
-
-    void serviceIsSwitchedInTheSameTransaction()
-    {
-        FakeSystemConfiguration system;
-        system.services = {wifi()};
-        NetworkConfigService service(system);
-        QCOMPARE(failureOf(service.setServiceEnabled(false, u"Wi-Fi"_s, {1})), QString());
-        QVERIFY(!system.services->first().enabled);
-        QCOMPARE(system.calls.join(u','), u"open,lock,enable,commit,apply,unlock"_s);
-        system.refusals[u"commit"_s] = 3005;
-        QCOMPARE(failureOf(service.setServiceEnabled(true, u"Wi-Fi"_s, {1})),
-                 u"Cannot save changes (SC 3005)."_s);
+        for (const auto& [step, message, calls] :
+             {std::tuple("open", "Cannot open system network preferences.", "open"),
+              {"lock", "Cannot acquire preferences lock (SC 1003).", "open,lock"},
+              {"set", "Service 'Wi-Fi' not found.", "open,lock,unlock"},
+              {"service", "Service 'Wi-Fi' not found.", "open,lock,unlock"},
+              {"IPv4", "Protocol IPv4 unavailable.", "open,lock,unlock"},
+              {"DNS", "", "open,lock,set IPv4,commit,apply,unlock"},
+              {"set IPv4", "", "open,lock,set IPv4,set DNS,commit,apply,unlock"},
+              {"commit", "Cannot save changes (SC 1003).", "open,lock,set IPv4,set DNS,commit,unlock"},
+              {"apply", "Cannot apply changes (SC 1003).", "open,lock,set IPv4,set DNS,commit,apply,unlock"},
+              {"keeping DNS", "", "open,lock,set IPv4,commit,apply,unlock"}}) {
+            const QString refused = QLatin1String(step);
+            FakeSystemConfiguration system;
+            system.services = {wifi()};
+            system.preferencesAvailable = refused != u"open"_s;
+            system.setAvailable = refused != u"set"_s;
+            if (refused == u"service"_s)
+                system.services = {named("Ethernet"), Service{}};
+            system.services->first().protocols.remove(refused);
+            system.refusals = {{refused, 1003}, {u"unlock"_s, -5}}; // the last is too late to be the reason
+            NetworkConfigService service(system);
+            const auto dns = refused == u"keeping DNS"_s ? NetworkConfigService::DNSHandling::keep
+                                                         : NetworkConfigService::DNSHandling::replace;
+            QCOMPARE(failureOf(service.writeConfiguration(u"Wi-Fi"_s, {}, {1}, dns)), QLatin1String(message));
+            QCOMPARE(system.calls.join(u','), QLatin1String(calls));
+        }
     }
 };
 

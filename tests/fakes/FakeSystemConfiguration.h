@@ -23,8 +23,7 @@ public:
     struct Service {
         std::optional<QString> name{}, id{};
         bool enabled = true;
-        std::optional<Interface> interface {
-        };
+        std::optional<Interface> interface = {};
         QMap<QString, std::optional<QVariant>> protocols = {{u"IPv4"_s, std::nullopt},
                                                             {u"DNS"_s, std::nullopt}};
     };
@@ -112,8 +111,16 @@ private:
         FakeSystemConfiguration& system;
         Service& service;
     };
-    struct FakeSet final : NetworkSet {
-        explicit FakeSet(FakeSystemConfiguration& owner) : system(owner) {}
+    struct FakePreferences final : Preferences, NetworkSet {
+        FakePreferences(FakeSystemConfiguration& owner, const QString& name) : system(owner)
+        {
+            Q_ASSERT(name == u"Ardeo-IPConfig"_s);
+        }
+        /// Its own, owned by nobody else: the preferences outlive what is got from them.
+        std::shared_ptr<NetworkSet> currentSet() override
+        {
+            return {std::shared_ptr<void>(), system.setAvailable ? this : nullptr};
+        }
         std::optional<std::vector<std::shared_ptr<NetworkService>>> services() const override
         {
             if (!system.services)
@@ -122,17 +129,6 @@ private:
             for (Service& service : *system.services)
                 list.push_back(std::make_shared<FakeService>(system, service));
             return list;
-        }
-        FakeSystemConfiguration& system;
-    };
-    struct FakePreferences final : Preferences {
-        FakePreferences(FakeSystemConfiguration& owner, const QString& name) : system(owner)
-        {
-            Q_ASSERT(name == u"Ardeo-IPConfig"_s);
-        }
-        std::shared_ptr<NetworkSet> currentSet() override
-        {
-            return system.setAvailable ? std::make_shared<FakeSet>(system) : nullptr;
         }
         bool lock(bool wait) override { return system.step(wait ? u"lock"_s : u"try lock"_s); }
         bool commitChanges() override { return system.step(u"commit"_s); }
