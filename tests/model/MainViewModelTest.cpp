@@ -14,13 +14,6 @@ using namespace std::chrono_literals;
 namespace
 {
 
-const QString manualMethod = u"Manual"_s;
-
-QString stateKey(const QString& service)
-{
-    return u"State:/Network/Service/%1/IPv4"_s.arg(service);
-}
-
 /// A model over fakes, with three services of which the second is active.
 struct Fixture : FakePlatform {
     std::shared_ptr<MainViewModel> model;
@@ -29,7 +22,8 @@ struct Fixture : FakePlatform {
     {
         for (const char* name : {"Ethernet", "Wi-Fi", "iPhone USB"})
             system->services->append({.name = QLatin1String(name), .id = QLatin1String(name)});
-        setAddress(u"Wi-Fi"_s, u"10.0.0.2"_s);
+        system->state[u"State:/Network/Service/Wi-Fi/IPv4"_s] =
+            Dictionary{{u"Addresses"_s, QStringList(u"10.0.0.2"_s)}};
         model = MainViewModel::create(platform);
         if (listed)
             QCoro::waitFor(model->loadAdapters());
@@ -38,10 +32,6 @@ struct Fixture : FakePlatform {
     Fixture(const Fixture&) = delete;
     Fixture& operator=(const Fixture&) = delete;
 
-    void setAddress(const QString& service, const QString& address) const
-    {
-        system->state[stateKey(service)] = Dictionary{{u"Addresses"_s, QStringList(address)}};
-    }
     QString selected() const
     {
         return model->selectedAdapter.value().value_or(AdapterInfo()).serviceName.string();
@@ -225,7 +215,7 @@ private Q_SLOTS:
         const QVariantMap dns{{u"ServerAddresses"_s, QStringList{u"1.1.1.1"_s, u"8.8.8.8"_s, u"9.9.9.9"_s}}};
         auto& protocols = (*fixture.system->services)[1].protocols;
         protocols[u"DNS"_s] = dns;
-        protocols[u"IPv4"_s] = Dictionary{{u"ConfigMethod"_s, manualMethod}};
+        protocols[u"IPv4"_s] = Dictionary{{u"ConfigMethod"_s, u"Manual"_s}};
         QCoro::waitFor(fixture.model->loadAdapters());
         fixture.model->primaryDNS = u"edited"_s;
         fixture.start(&MainViewModel::renewDHCPLease);
@@ -275,32 +265,21 @@ private Q_SLOTS:
         model.importPresets();
         QCOMPARE(model.presetStore.presets(), (QList{presets.last(), presets.first()}));
         QVERIFY(!model.applyError.value());
-        const QByteArray good = *encodePresets({presets.first()});
-        QElapsedTimer time;
-        time.start();
-        const QString pipe = folder.filePath(u"pipe"_s);
+        const QString pipe = folder.filePath(u"pipe"_s); // which would be read for ever
         QCOMPARE(mkfifo(pipe.toUtf8().constData(), 0600), 0);
-        file(QByteArray(100'000'000, '\0'));
-        const QString large = folder.filePath(u"large"_s);
-        QVERIFY(QFile::rename(*fixture.filePanels->place, large));
         file("[{}]");
         const QString bad = *fixture.filePanels->place;
-        for (const QString& place : {bad, large, folder.path(), folder.filePath(u"absent"_s), pipe}) {
+        for (const QString& place : {bad, folder.path(), folder.filePath(u"absent"_s), pipe}) {
             model.applyError = std::nullopt;
             fixture.filePanels->place = place;
             model.importPresets();
             QCOMPARE(model.applyError.value(), Text(u"Could not read profiles file."_s));
             QCOMPARE(model.presetStore.presets().size(), 2);
         }
-        QVERIFY(time.elapsed() < 5'000);
-        model.applyError = std::nullopt;
-        for (const QByteArray& fine : {good, "\xEF\xBB\xBF" + good}) {
-            model.presetStore.setPresets({});
-            file(fine);
-            model.importPresets();
-            QCOMPARE(model.presetStore.presets(), QList{presets.first()});
-        }
-        QVERIFY(!model.applyError.value());
+        model.presetStore.setPresets({});
+        file("\xEF\xBB\xBF" + *encodePresets({presets.first()}));
+        model.importPresets();
+        QCOMPARE(model.presetStore.presets(), QList{presets.first()});
         fixture.filePanels->place = folder.path();
         QVERIFY(!model.exportPresets());
     }
@@ -395,19 +374,6 @@ private Q_SLOTS:
             QCOMPARE(system.calls.count(u"unlock"_s),
                      system.refusals.contains(u"lock"_s) ? 0 : system.calls.count(u"lock"_s));
         }
-    }
-
-    void actionsKeepTheModelAlive()
-    {
-        Fixture fixture;
-        fixture.start(&MainViewModel::applyConfiguration);
-        const std::weak_ptr<MainViewModel> alive = fixture.model;
-        fixture.model.reset();
-        fixture.clock->advance(1s);
-        QTRY_COMPARE(fixture.clock->sleepers(), 1);
-        QVERIFY(!alive.expired());
-        fixture.clock->advance(3s);
-        QTRY_VERIFY(alive.expired());
     }
 };
 
