@@ -13,26 +13,19 @@ class ConsentTest : public QObject
 {
     Q_OBJECT
 
-    static int prompts()
+    /// Everything in the file, or given into the pipe, whose path the variable holds.
+    static QByteArray contentOf(const char* variable)
     {
-        QFile file(qEnvironmentVariable("LAB_PROMPTS"));
-        return file.open(QIODevice::ReadOnly) ? static_cast<int>(file.readAll().count('\n')) : 0;
+        QFile file(qEnvironmentVariable(variable));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-
+    static qsizetype prompts() { return contentOf("LAB_PROMPTS").count('\n'); }
     /// Returns when the agent speaks for this process.
-    static void awaitAgent()
-    {
-        QFile registered(qEnvironmentVariable("LAB_REGISTERED"));
-        QVERIFY(registered.open(QIODevice::ReadOnly));
-        registered.readAll();
-    }
-
+    static void awaitAgent() { contentOf("LAB_REGISTERED"); }
     /// Has polkit forget every consent, as it does after some minutes.
     static void lapse()
     {
-        QFile request(qEnvironmentVariable("LAB_LAPSE"));
-        QVERIFY(request.open(QIODevice::WriteOnly));
-        request.close();
+        contentOf("LAB_LAPSE");
         awaitAgent();
     }
 
