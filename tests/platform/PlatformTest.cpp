@@ -54,24 +54,17 @@ private Q_SLOTS:
         QVERIFY(!checkedDNS({{u"SearchDomains"_s, QStringList(u"a\nnameserver 6.6.6.6"_s)}}));
     }
 
-    void userDefaultsKeepWhatTheyAreGiven()
-    {
-        const QTemporaryDir folder;
-        const QDir place(folder.filePath(u"new/place"_s));
-        FileUserDefaults defaults(place);
-        QVERIFY(!defaults.data(u"key"_s));
-        for (const QByteArray& data : {QByteArray("a\0b", 3), QByteArray()}) {
-            defaults.set(data, u"key"_s);
-            QCOMPARE(FileUserDefaults(place).data(u"key"_s), data);
-        }
-    }
-
     void whatCannotBeStoredIsToldOnceAndLeavesWhatIsThere()
     {
         const QTemporaryDir place;
         const QDir folder(place.path());
         const QString key = u"key"_s;
-        FileUserDefaults(folder).set("old", key);
+        const QByteArray old("o\0d", 3);
+        for (const QDir& where : {QDir(place.filePath(u"not/there/yet"_s)), folder}) {
+            QVERIFY(!FileUserDefaults(where).data(key));
+            FileUserDefaults(where).set(old, key);
+            QCOMPARE(FileUserDefaults(where).data(key), old);
+        }
         chmod(QFile::encodeName(folder.filePath(key)).constData(), 0444);
         const auto told = [&](const auto& hinder) {
             FileUserDefaults defaults(folder);
@@ -94,7 +87,7 @@ private Q_SLOTS:
         };
         QCOMPARE(told(full), u"File too large."_s);
         QCOMPARE(told(readOnly), u"Permission denied."_s);
-        QCOMPARE(FileUserDefaults(folder).data(key), QByteArray("old"));
+        QCOMPARE(FileUserDefaults(folder).data(key), old);
         QCOMPARE(folder.entryList(QDir::Files), QStringList(key));
         QVERIFY(QFile::remove(folder.filePath(key)) && folder.mkdir(key));
         QCOMPARE(told([](bool) {}), u"those stored before cannot be read."_s);
