@@ -29,8 +29,7 @@ struct Fixture : FakePlatform {
             QCoro::waitFor(model->loadAdapters());
     }
     ~Fixture() { letGo(model, *clock); }
-    Fixture(const Fixture&) = delete;
-    Fixture& operator=(const Fixture&) = delete;
+    Q_DISABLE_COPY(Fixture)
 
     QString selected() const
     {

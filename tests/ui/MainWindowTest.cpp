@@ -51,8 +51,7 @@ struct Window {
         app.reset();
         letGo(model, *clock);
     }
-    Window(const Window&) = delete;
-    Window& operator=(const Window&) = delete;
+    Q_DISABLE_COPY(Window)
 
     void settle()
     {
