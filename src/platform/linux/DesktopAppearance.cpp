@@ -24,6 +24,7 @@ constexpr auto kdeGroup = "org.kde.kdeglobals.KDE";
 
 DesktopAppearance::DesktopAppearance(QObject* parent) : QObject(parent)
 {
+    qRegisterMetaType<QDBusVariant>(); // or the slot is not found by its name, and nothing is connected
     QDBusConnection::sessionBus().connect(QLatin1String(portalService), QLatin1String(portalPath),
                                           QLatin1String(portalInterface), QStringLiteral("SettingChanged"),
                                           this, SLOT(takeSetting(QString, QString, QDBusVariant)));
