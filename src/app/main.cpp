@@ -38,9 +38,12 @@ bool asksForText(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    std::unique_ptr<QCoreApplication> application;
     const bool isText = argc > 1 && asksForText(argc, argv);
-    const auto application = isText ? std::unique_ptr<QCoreApplication>(new QCoreApplication(argc, argv))
-                                    : std::unique_ptr<QCoreApplication>(new QApplication(argc, argv));
+    if (isText)
+        application = std::make_unique<QCoreApplication>(argc, argv);
+    else
+        application = std::make_unique<QApplication>(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Ardeo IP Config"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ARDEO_VERSION));
     QGuiApplication::setDesktopFileName(QLatin1String(applicationIdentifier));

@@ -744,13 +744,13 @@ ARDEO_WIDE void NeuralNetworkRenderer::write(QImage& image, ColorScheme scheme, 
     Share* const line = m_coarseShares.data() + Plane::margin;
     const auto takeLine = [&](const float* row) {
         for (int x = -Plane::margin; x < m_coarse.columns() + Plane::margin; ++x)
-            line[x] = static_cast<Share>(std::max(row[x], 0.0F) * wholeSample + 0.5F);
+            line[x] = static_cast<Share>(std::max(row[x], 0.0F) * wholeSample);
     };
     int expanded = m_rowTaps.front().first;
     int taken = expanded - 1;
-    for (auto part = region.begin(); part != region.end();) {
+    for (const QRect* part = region.begin(); part != region.end();) {
         // Rectangles one beside the other share their rows.
-        const auto band = part;
+        const QRect* const band = part;
         part =
             std::find_if(band, region.end(), [&](const QRect& other) { return other.top() > band->top(); });
         for (int y = band->top(); y <= band->bottom(); ++y) {
@@ -782,7 +782,7 @@ ARDEO_WIDE void NeuralNetworkRenderer::write(QImage& image, ColorScheme scheme, 
                 dots[static_cast<std::size_t>(i)] = expandedDots(first + i);
             }
             auto* const out = reinterpret_cast<std::uint32_t*>(image.scanLine(y));
-            for (auto rect = band; rect != part; ++rect) {
+            for (const QRect* rect = band; rect != part; ++rect) {
                 int from = rect->left();
                 for (const auto& [end, withDots] : m_runs) {
                     const int to = std::min(end, rect->right() + 1);
