@@ -2,6 +2,7 @@
 
 #include "ui/CardScrollArea.h"
 #include "ui/MaterialPanel.h"
+#include "ui/PushButton.h"
 
 #include <QVBoxLayout>
 
@@ -45,8 +46,13 @@ void BackgroundPage::setContent(QWidget* content)
 QRegion BackgroundPage::covered() const
 {
     QRegion region;
-    for (const auto* panel : findChildren<MaterialPanel*>())
-        region += QRect(panel->mapTo(this, QPoint()), panel->size()) & rect();
+    for (const auto* widget : findChildren<QWidget*>()) {
+        // Of what is below a button, only its corners are seen.
+        const bool covers =
+            qobject_cast<const MaterialPanel*>(widget) || qobject_cast<const PushButton*>(widget);
+        if (covers && widget->isVisible())
+            region += QRect(widget->mapTo(this, QPoint()), widget->size()) & rect();
+    }
     return region;
 }
 

@@ -21,7 +21,7 @@ public:
     NeuralNetworkBackground(Clock& clock, double maxDist, double speed, QWidget* parent);
 
     /// Tells which part is covered by what lies above. Painting that anew for each frame would cost far more
-    /// than the frame, so it follows a few times a second only.
+    /// than the frame, so it follows twice a second only.
     void setCovered(std::function<QRegion()> covered);
     /// A frame so strongly blurred that it changes slowly: what shows through a card. It is the same for all
     /// that is painted between two updates of what is covered.
