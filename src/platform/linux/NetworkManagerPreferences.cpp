@@ -241,21 +241,23 @@ SystemStatus NetworkManagerPreferences::apply(const Profile& profile)
     const QByteArrayView method(
         nm_setting_ip_config_get_method(nm_connection_get_setting_ip4_config(profile.committed.get())));
     const bool dhcp = method == NM_SETTING_IP4_CONFIG_METHOD_AUTO;
-    NMDevice* device = deviceOf(client, connection);
+    // The daemon may go away while it is asked, and its objects with it.
+    const GRef<NMDevice> device = newRef(deviceOf(client, connection));
     if (active) {
         // Reapplying would send no DHCP message, and it is a fresh lease that is wanted here.
         const bool complete = nm_active_connection_get_state(active) == NM_ACTIVE_CONNECTION_STATE_ACTIVATED;
-        if (!dhcp && device && complete && reapply(device))
+        if (!dhcp && device && complete && reapply(device.get()))
             return SystemStatus::ok;
-        return activate(connection, device, dhcp);
+        return activate(connection, device.get(), dhcp);
     }
     // Without a device that could take it at once, the next activation will find it as it was saved.
     if (!device)
         return SystemStatus::ok;
-    const NMDeviceState state = nm_device_get_state(device);
+    const NMDeviceState state = nm_device_get_state(device.get());
     const bool free = state == NM_DEVICE_STATE_DISCONNECTED || state == NM_DEVICE_STATE_FAILED;
     const bool ready = state >= NM_DEVICE_STATE_DISCONNECTED;
-    return free || (ready && profile.justEnabled) ? activate(connection, device, dhcp) : SystemStatus::ok;
+    return free || (ready && profile.justEnabled) ? activate(connection, device.get(), dhcp)
+                                                  : SystemStatus::ok;
 }
 
 bool NetworkManagerPreferences::reapply(NMDevice* device)
