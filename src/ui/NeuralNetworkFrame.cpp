@@ -716,8 +716,7 @@ template <int pixels>
 }
 
 /// Brings coarse samples to the pixels of a row, at any scale.
-[[gnu::always_inline]] inline void NeuralNetworkRenderer::expand(const Share* in, Share* __restrict out,
-                                                                 int from, int to) const
+ARDEO_WIDE void NeuralNetworkRenderer::expand(const Share* in, Share* __restrict out, int from, int to) const
 {
     if (m_scale == 1 && m_pixels.width() >= 2)
         return expandWhole<2>(in, out, from, to);
