@@ -18,7 +18,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Qt loads these at run time, so that no library tells of them: without the first no window opens at all.
+# Qt loads the first two at run time, so that no library tells of them; without the first no window opens at all.
+# The packed relocations need a C library of that age.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, hicolor-icon-theme, libc6 (>= 2.36)")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "network-manager, polkitd, qt6-wayland")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
