@@ -50,7 +50,6 @@ ContentView::ContentView(MainViewModel& model, Clock& clock, NotificationCenter&
     : QWidget(parent)
     , vm(model)
 {
-    vm.loadAdapters(); // while the system answers, the view is built
     auto* columns = new Splitter(Qt::Horizontal);
     auto* sidebar = new LeftPanel(vm);
     sidebar->setMinimumWidth(sidebarMinimum);
@@ -79,6 +78,7 @@ void ContentView::showEvent(QShowEvent*)
     if (std::exchange(m_hasAppeared, true))
         return;
     setFocus(); // no control has it before the user has chosen one
+    vm.loadAdapters();
 }
 
 } // namespace ardeo

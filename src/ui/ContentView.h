@@ -13,8 +13,9 @@ namespace ardeo
 inline const QString openHelpNotification = QStringLiteral("ardeoIPConfigOpenHelp");
 inline const QString openShortcutsNotification = QStringLiteral("ardeoIPConfigOpenShortcuts");
 
-/// The main window's content: the sidebar and the detail area. It has the model list the services, once,
-/// before it appears. It opens the windows that the two notifications ask for.
+/// The main window's content: the sidebar and the detail area. When it appears, the model lists the services;
+/// coming back from being hidden or minimised is no appearance. It opens the windows that the two
+/// notifications ask for.
 class ContentView final : public QWidget
 {
     Q_OBJECT
