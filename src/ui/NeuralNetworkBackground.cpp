@@ -17,7 +17,7 @@ namespace
 
 constexpr int tickMilliseconds = 33;
 /// Ticks after which also what lies above is painted anew. Until then the ground that shines through a card
-/// has changed by one or two steps of colour of 255.
+/// has changed by two to four steps of colour of 255 where it changes most.
 constexpr int coveredTicks = 16;
 /// Rows that Qt fills without spreading them over a pool of threads; waking these takes longer than the
 /// filling.
