@@ -4,6 +4,7 @@
 #include "platform/linux/X11Desktop.h"
 
 #include <QApplication>
+#include <QBackingStore>
 #include <QWindow>
 
 #include <malloc.h>
@@ -43,7 +44,11 @@ void AppDelegate::hideMainWindow()
         return;
     if (hasMenuBarExtra()) {
         mainWindow->hide();
-        malloc_trim(0); // what the window has freed would stay ours otherwise, maybe for days
+        // Nobody sees it, maybe for days. Its picture is made anew when it is shown and the size is not its
+        // own; and what has been freed would stay ours otherwise.
+        if (QBackingStore* picture = mainWindow->backingStore())
+            picture->resize(QSize(1, 1));
+        malloc_trim(0);
         return;
     }
     mainWindow->showMinimized();
