@@ -13,11 +13,13 @@ constexpr double step = 1.0 / 30;
 
 void frame(benchmark::State& state)
 {
-    NeuralNetworkRenderer renderer;
+    NeuralNetworkRenderer renderer(220, 0.25);
     double time = 8e8;
+    const auto scale = static_cast<double>(state.range(0));
     for (auto _ : state) {
+        renderer.compose(size, time, scale, QRect(QPoint(), size.toSize()));
         benchmark::DoNotOptimize(
-            renderer.render(size, time, ColorScheme::light, 220, 0.25, static_cast<double>(state.range(0))));
+            renderer.picture({QPoint(), (size * scale).toSize()}, ColorScheme::light, Qt::white));
         time += step;
     }
 }

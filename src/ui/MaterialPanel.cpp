@@ -2,8 +2,21 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <cmath>
+
 namespace ardeo
 {
+
+namespace
+{
+
+constexpr double borderWidth = 0.5;
+/// Rows that Qt fills without spreading them over a pool of threads; waking these takes longer than the
+/// filling.
+constexpr int stripRows = 64;
+
+} // namespace
 
 MaterialPanel::MaterialPanel(double radius, Border border, QWidget* parent)
     : QWidget(parent)
@@ -19,15 +32,37 @@ void MaterialPanel::paintEvent(QPaintEvent*)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const QRectF area = look::deviceAligned(this, rect());
     const QPainterPath shape = look::continuousRect(area, m_radius);
-    if (m_background) {
-        painter.setClipPath(shape);
-        painter.fillRect(rect(), colours.window);
-        const QPoint offset = m_background->mapFromGlobal(mapToGlobal(QPoint()));
-        painter.drawImage(QRectF(-offset, m_background->size()), m_background->backdrop());
-        painter.setClipping(false);
+    if (!m_background) {
+        painter.fillPath(shape, colours.material);
+        look::strokeInside(painter, area, m_radius, m_border(colours), borderWidth);
+        return;
     }
-    painter.fillPath(shape, colours.material);
-    look::strokeInside(painter, area, m_radius, m_border(colours), 0.5);
+
+    const QImage ground = m_background->backdrop();
+    const QRectF groundArea(m_background->mapTo(window(), QPoint()) - mapTo(window(), QPoint()),
+                            m_background->size());
+    const auto fill = [&] {
+        painter.drawImage(groundArea, ground);
+        painter.fillRect(area, colours.material);
+    };
+    // The shape is needed at the ends alone; between them there are only straight edges.
+    const int end = std::min(static_cast<int>(std::ceil(2 * m_radius)), (height() + 1) / 2);
+    for (const int top : {0, height() - end}) {
+        painter.setClipRect(0, top, width(), end);
+        painter.setClipPath(shape, Qt::IntersectClip);
+        fill();
+        painter.setClipRect(0, top, width(), end);
+        look::strokeInside(painter, area, m_radius, m_border(colours), borderWidth);
+    }
+    const double line = std::max(borderWidth, 1 / devicePixelRatioF());
+    for (int top = end; top < height() - end; top += stripRows) {
+        const int rows = std::min(stripRows, height() - end - top);
+        painter.setClipRect(0, top, width(), rows);
+        painter.setClipRect(area, Qt::IntersectClip);
+        fill();
+        for (const double left : {area.left(), area.right() - line})
+            painter.fillRect(QRectF(left, top, line, rows), m_border(colours));
+    }
 }
 
 } // namespace ardeo

@@ -7,8 +7,6 @@
 #include <QPainter>
 #include <QWindow>
 
-#include <array>
-
 namespace ardeo
 {
 
@@ -19,41 +17,10 @@ constexpr int tickMilliseconds = 33;
 /// Ticks after which also what lies above is painted anew. Until then the ground that shines through a card
 /// has changed by two to four steps of colour of 255 where it changes most.
 constexpr int coveredTicks = 16;
-/// Rows that Qt fills without spreading them over a pool of threads; waking these takes longer than the
-/// filling.
+/// Rows that are drawn at once: few enough to stay in the processor's cache until they are on the screen.
 constexpr int bandRows = 64;
 /// By how much the backdrop is smaller than the view.
 constexpr int backdropScale = 24;
-
-/// The image in a small size, each pixel the average of what it stands for. Qt's own smooth scaling spreads
-/// over a pool of threads, and waking them takes longer than this.
-QImage averaged(const QImage& image, QSize size)
-{
-    QImage small(size, QImage::Format_ARGB32_Premultiplied);
-    for (int row = 0; row < size.height(); ++row) {
-        const int top = row * image.height() / size.height();
-        const int bottom = (row + 1) * image.height() / size.height();
-        for (int column = 0; column < size.width(); ++column) {
-            const int left = column * image.width() / size.width();
-            const int right = (column + 1) * image.width() / size.width();
-            std::array<quint32, 4> sums{};
-            for (int y = top; y < bottom; ++y) {
-                const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-                for (int x = left; x < right; ++x) {
-                    sums[0] += line[x] & 0xFF;
-                    sums[1] += line[x] >> 8 & 0xFF;
-                    sums[2] += line[x] >> 16 & 0xFF;
-                    sums[3] += line[x] >> 24;
-                }
-            }
-            const auto count = static_cast<quint32>(qMax(1, (bottom - top) * (right - left)));
-            for (quint32& sum : sums)
-                sum = (sum + count / 2) / count;
-            small.setPixel(column, row, sums[3] << 24 | sums[2] << 16 | sums[1] << 8 | sums[0]);
-        }
-    }
-    return small;
-}
 
 } // namespace
 
@@ -129,7 +96,7 @@ void NeuralNetworkBackground::resizeEvent(QResizeEvent*)
 void NeuralNetworkBackground::timerEvent(QTimerEvent*)
 {
     m_time = m_clock.referenceTime();
-    m_drawn = {};
+    m_composed = {};
     if (++m_ticks % coveredTicks != 0)
         return update(QRegion(rect()) - m_covered());
     m_backdrop = {};
@@ -138,41 +105,46 @@ void NeuralNetworkBackground::timerEvent(QTimerEvent*)
 
 void NeuralNetworkBackground::forgetFrame()
 {
-    m_frame = {};
-    m_drawn = {};
+    m_composed = {};
     m_backdrop = {};
 }
 
-const QImage& NeuralNetworkBackground::frame(const QRegion& part)
+NeuralNetworkRenderer& NeuralNetworkBackground::frame(const QRegion& part)
 {
-    if (!(part - m_drawn).isEmpty() || m_frame.devicePixelRatio() != devicePixelRatioF()) {
-        if (!m_renderer)
-            m_renderer.emplace();
-        m_frame = m_renderer->render(size(), m_time, look::schemeOf(this), m_maxDist, m_speed,
-                                     devicePixelRatioF(), part);
-        m_drawn = part;
+    if (!m_renderer)
+        m_renderer.emplace(m_maxDist, m_speed);
+    if (!(part - m_composed).isEmpty()) {
+        m_renderer->compose(size(), m_time, devicePixelRatioF(), part);
+        m_composed = part;
     }
-    return m_frame;
+    return *m_renderer;
 }
 
 const QImage& NeuralNetworkBackground::backdrop()
 {
-    if (m_backdrop.isNull() && !size().isEmpty())
-        m_backdrop =
-            averaged(frame(rect()), {qMax(1, width() / backdropScale), qMax(1, height() / backdropScale)});
+    if (m_backdrop.isNull() && !size().isEmpty()) {
+        const QSize small(qMax(1, width() / backdropScale), qMax(1, height() / backdropScale));
+        m_backdrop = frame(rect()).reduced(small, look::schemeOf(this), look::colours(this).window);
+    }
     return m_backdrop;
 }
 
 void NeuralNetworkBackground::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    const QImage& image = frame(event->region());
+    const double scale = devicePixelRatioF();
+    const QRect all(QPoint(), (QSizeF(size()) * scale).toSize());
+    NeuralNetworkRenderer& network = frame(event->region());
     for (const QRect& part : event->region()) {
-        for (int top = part.top(); top <= part.bottom(); top += bandRows) {
-            const QRect band(part.left(), top, part.width(), qMin(bandRows, part.bottom() + 1 - top));
-            painter.setClipRect(band);
-            painter.fillRect(band, look::colours(this).window);
-            painter.drawImage(QPointF(), image);
+        painter.resetTransform();
+        painter.setClipRect(part);
+        painter.scale(1 / scale, 1 / scale); // to device pixels, so that the bands meet exactly
+        const QRect pixels =
+            QRectF(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale).toAlignedRect() & all;
+        for (int top = pixels.top(); top <= pixels.bottom(); top += bandRows) {
+            const QRect band(pixels.left(), top, pixels.width(), qMin(bandRows, pixels.bottom() + 1 - top));
+            painter.drawImage(band.topLeft(),
+                              network.picture(band, look::schemeOf(this), look::colours(this).window));
         }
     }
 }

@@ -42,16 +42,15 @@ private:
     void startOrStop();
     /// Frames are drawn when they are looked at: at the start a window changes its size and looks many times.
     void forgetFrame();
-    /// The current frame, of which at least that part is drawn.
-    const QImage& frame(const QRegion& part);
+    /// The current frame, of which at least that part is composed.
+    NeuralNetworkRenderer& frame(const QRegion& part);
 
     Clock& m_clock;
     double m_maxDist;
     double m_speed;
     std::function<QRegion()> m_covered = [] { return QRegion(); };
     std::optional<NeuralNetworkRenderer> m_renderer;
-    QImage m_frame;
-    QRegion m_drawn;
+    QRegion m_composed;
     QImage m_backdrop;
     double m_time = 0;
     int m_timer = 0;

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <numbers>
+#include <type_traits>
 #include <utility>
 
 // How a frame is drawn fast. Links, their glows and the glows of the nodes have one colour, so that their
@@ -14,6 +16,10 @@
 // points ("coarse") and brought to device pixels by cubic splines. All that smooths adds up in variance, so
 // each blur is narrowed by what the resampling around it blurs by itself. The glows are smooth and drawn on
 // the coarse grid to begin with.
+//
+// Nodes are slow beside the blur, too. So the coarse planes are composed ten times a second or so, at moments
+// that are the same for everybody, and a frame is a mixture of the two around it. Of a frame only that part is
+// computed which shows, and its pixels only when they are put on the screen.
 
 // The work on whole planes is compiled twice: for every processor of the kind, and for those that take eight
 // samples at once. The latter matters for more than that. Qt's painting leaves the upper halves of the wide
@@ -42,6 +48,12 @@ constexpr std::array<NodeParam, 35> nodes{{
     {0.06, 0.09, 2.0, 1.0}, {0.12, 0.15, 0.5, 1.8}, {0.17, 0.11, 1.2, 0.7},
 }};
 
+constexpr double horizontalReach = 0.46;
+constexpr double verticalReach = 0.47;
+/// In points; a blur's deviation is 2.5.
+constexpr double mixableWay = 1.5;
+constexpr double longestInterval = 1;
+constexpr double shortestInterval = 0.05;
 constexpr double linkOpacity = 0.4;
 constexpr double linkWidth = 0.8;
 constexpr double linkGlowOpacity = 0.45;
@@ -122,14 +134,32 @@ constexpr Share shareOf(double part)
     return static_cast<Share>(std::min(part * 65536, 65535.0));
 }
 
-constexpr std::array<Share, 3> sharesOf(const std::array<float, 3>& colour)
+/// How a weight moves one channel of the picture away from the ground.
+struct Way {
+    Share length;
+    Share sign; // 0 for up, all bits for down: what turns a number into its negative when flipped
+};
+
+constexpr Way wayBetween(double from, double to)
 {
-    return {shareOf(colour[0]), shareOf(colour[1]), shareOf(colour[2])};
+    return from <= to ? Way{shareOf(to - from), 0} : Way{shareOf(from - to), 0xFFFF};
 }
+
+/// One channel of the ground, and its ways to the colours of links and dots.
+struct Channel {
+    Share ground;
+    Way link;
+    Way dot;
+};
 
 [[gnu::always_inline]] inline Share times(Share sample, Share share)
 {
     return static_cast<Share>(static_cast<std::uint32_t>(sample) * share >> 16);
+}
+
+[[gnu::always_inline]] inline Share along(Way way, Share weight)
+{
+    return static_cast<Share>((times(weight, way.length) ^ way.sign) - way.sign);
 }
 
 /// The value of a cubic spline between four neighbours.
@@ -157,29 +187,53 @@ inline float transmittance(float depth)
 template <bool withDots>
 [[gnu::always_inline]] inline void
 writeRow(std::uint32_t* __restrict out, int from, int to, const std::array<const Share*, 4>& links,
-         const std::array<const Share*, 4>& dots, const std::array<Share, 4>& weights, const Palette& palette)
+         const std::array<const Share*, 4>& dots, const std::array<Share, 4>& weights,
+         const std::array<Channel, 3>& channels)
 {
     const auto [l0, l1, l2, l3] = links;
     const auto [d0, d1, d2, d3] = dots;
-    const auto [lr, lg, lb] = sharesOf(palette.link);
-    const auto [dr, dg, db] = sharesOf(palette.dot);
+    const auto [r, g, b] = channels;
     for (int x = from; x < to; ++x) {
         const Share link = between(l0[x], l1[x], l2[x], l3[x], weights);
-        auto alpha = static_cast<Share>(link + halfStep);
-        auto red = static_cast<Share>(times(link, lr) + halfStep);
-        auto green = static_cast<Share>(times(link, lg) + halfStep);
-        auto blue = static_cast<Share>(times(link, lb) + halfStep);
+        auto red = static_cast<Share>(r.ground + along(r.link, link));
+        auto green = static_cast<Share>(g.ground + along(g.link, link));
+        auto blue = static_cast<Share>(b.ground + along(b.link, link));
         if constexpr (withDots) {
             const Share dot = between(d0[x], d1[x], d2[x], d3[x], weights);
-            alpha = static_cast<Share>(alpha + dot);
-            red = static_cast<Share>(red + times(dot, dr));
-            green = static_cast<Share>(green + times(dot, dg));
-            blue = static_cast<Share>(blue + times(dot, db));
+            red = static_cast<Share>(red + along(r.dot, dot));
+            green = static_cast<Share>(green + along(g.dot, dot));
+            blue = static_cast<Share>(blue + along(b.dot, dot));
         }
-        const auto upper = static_cast<Share>((alpha & 0xFF00) | red >> 8);
+        const auto upper = static_cast<Share>(0xFF00 | red >> 8);
         const auto lower = static_cast<Share>((green & 0xFF00) | blue >> 8);
         out[x] = static_cast<std::uint32_t>(upper) << 16 | lower;
     }
+}
+
+std::array<Channel, 3> channelsOf(ColorScheme scheme, QColor ground)
+{
+    const Palette& palette = scheme == ColorScheme::dark ? darkPalette : lightPalette;
+    const std::array<double, 3> grounds{ground.redF(), ground.greenF(), ground.blueF()};
+    std::array<Channel, 3> channels;
+    for (std::size_t i = 0; i < channels.size(); ++i) {
+        channels[i] = {static_cast<Share>(std::lround(grounds[i] * wholeSample) + halfStep),
+                       wayBetween(grounds[i], palette.link[i]), wayBetween(grounds[i], palette.dot[i])};
+    }
+    return channels;
+}
+
+/// How far apart in time two compositions are, in seconds, so that their mixture looks like what is between
+/// them: what a node moves meanwhile is little beside the blur. 0 if nodes are so fast that there would be
+/// nothing between.
+double intervalFor(QSizeF size, double speed)
+{
+    double fastest = 0; // points per second
+    for (const NodeParam& node : nodes) {
+        fastest = std::max(fastest, std::abs(speed) * std::hypot(size.width() * horizontalReach * node.xFreq,
+                                                                 size.height() * verticalReach * node.yFreq));
+    }
+    const double interval = std::min(mixableWay / fastest, longestInterval);
+    return interval < shortestInterval ? 0 : interval;
 }
 
 QRegion grown(const QRegion& region, int margin)
@@ -187,6 +241,15 @@ QRegion grown(const QRegion& region, int margin)
     QRegion result;
     for (const QRect& rect : region)
         result += rect.adjusted(-margin, -margin, margin, margin);
+    return result;
+}
+
+/// The same region in samples of which there are more to a length.
+QRegion refined(const QRegion& region, int times)
+{
+    QRegion result;
+    for (const QRect& rect : region)
+        result += QRect(rect.topLeft() * times, rect.size() * times);
     return result;
 }
 
@@ -203,28 +266,51 @@ std::vector<QPointF> nodePositions(QSizeF size, double time, double speed)
     std::vector<QPointF> positions;
     positions.reserve(nodes.size());
     for (const NodeParam& node : nodes) {
-        positions.emplace_back(size.width() * (0.5 + 0.46 * std::sin(angle * node.xFreq + node.xPhase)),
-                               size.height() * (0.5 + 0.47 * std::cos(angle * node.yFreq + node.yPhase)));
+        positions.emplace_back(
+            size.width() * (0.5 + horizontalReach * std::sin(angle * node.xFreq + node.xPhase)),
+            size.height() * (0.5 + verticalReach * std::cos(angle * node.yFreq + node.yPhase)));
     }
     return positions;
 }
 
-void NeuralNetworkRenderer::Plane::reshape(int columns, int rows)
+template <typename Sample>
+void NeuralNetworkRenderer::Grid<Sample>::reshape(int columns, int rows)
 {
     m_columns = columns;
     m_rows = rows;
     m_stride = columns + 2 * margin;
-    m_samples.resize(static_cast<std::size_t>(m_stride * (rows + 2 * margin)));
+    m_samples.assign(static_cast<std::size_t>(m_stride * (rows + 2 * margin)), Sample{});
 }
 
-QRect NeuralNetworkRenderer::Plane::area(int border) const
+template <typename Sample>
+QRect NeuralNetworkRenderer::Grid<Sample>::area(int border) const
 {
     return QRect(0, 0, m_columns, m_rows).adjusted(-border, -border, border, border);
 }
 
-void NeuralNetworkRenderer::Plane::fill(float value)
+template <typename Sample>
+void NeuralNetworkRenderer::Grid<Sample>::fill(const QRegion& region, Sample value)
 {
-    std::fill(m_samples.begin(), m_samples.end(), value);
+    const QRect all = area(margin);
+    for (const QRect& rect : region) {
+        const QRect part = rect & all;
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            std::fill_n(row(y) + part.left(), part.width(), value);
+    }
+}
+
+void NeuralNetworkRenderer::Blocks::cover(const QRegion& region, QSize plane)
+{
+    m_columns = (plane.width() >> side) + 1;
+    m_marks.assign(index(0, (plane.height() >> side) + 1), 0);
+    m_region = {};
+    for (const QRect& rect : region.intersected(QRect(QPoint(), plane))) {
+        const QRect blocks(QPoint(rect.left() >> side, rect.top() >> side),
+                           QPoint(rect.right() >> side, rect.bottom() >> side));
+        for (int row = blocks.top(); row <= blocks.bottom(); ++row)
+            std::fill_n(m_marks.data() + index(blocks.left(), row), blocks.width(), std::uint8_t{1});
+        m_region += QRect(blocks.topLeft() * (1 << side), blocks.size() * (1 << side));
+    }
 }
 
 template <typename Profile>
@@ -254,8 +340,10 @@ NeuralNetworkRenderer::LineProfiles::of(double slope) const
     return m_samples.data() + std::lround(std::abs(slope) * slopes) * phases;
 }
 
-NeuralNetworkRenderer::NeuralNetworkRenderer()
-    : m_lineProfiles(lineCoverage, linkWidth)
+NeuralNetworkRenderer::NeuralNetworkRenderer(double maxDist, double speed)
+    : m_maxDist(maxDist)
+    , m_speed(speed)
+    , m_lineProfiles(lineCoverage, linkWidth)
     , m_finestLineProfiles(lineCoverage, 2 * linkWidth)
     , m_glowProfiles(glowLineDensity, linkGlowWidth / 2)
     , m_glowKernel(kernelOf((linkGlowVariance - glowLineVariance - refiningVariance) / coarseCell))
@@ -321,62 +409,92 @@ std::vector<NeuralNetworkRenderer::Tap> NeuralNetworkRenderer::tapsOf(int pixels
     return taps;
 }
 
-QImage NeuralNetworkRenderer::render(QSizeF size, double time, ColorScheme scheme, double maxDist,
-                                     double speed, qreal devicePixelRatio, const std::optional<QRegion>& part)
+void NeuralNetworkRenderer::compose(QSizeF size, double time, qreal devicePixelRatio, const QRegion& part)
 {
-    const QSize pixels = (size * devicePixelRatio).toSize();
-    if (pixels.isEmpty())
-        return {};
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(devicePixelRatio);
-    if (pixels != m_pixels || devicePixelRatio != m_scale)
-        prepare(pixels, devicePixelRatio);
-    QRegion written;
-    QRegion needed; // in coarse samples
-    for (const QRect& rect : part.value_or(QRect(QPoint(), size.toSize() + QSize(1, 1)))) {
-        const QRectF inPixels(QPointF(rect.topLeft()) * devicePixelRatio,
-                              QSizeF(rect.size()) * devicePixelRatio);
-        const QRect area = inPixels.toAlignedRect() & image.rect();
+    if (size != m_size || devicePixelRatio != m_scale)
+        prepare(size, devicePixelRatio);
+    choose(part);
+    if (m_interval > 0) {
+        const double moment = std::floor(time / m_interval);
+        const double before = moment * m_interval;
+        if (m_after.time == before)
+            std::swap(m_before, m_after);
+        composeAt(m_before, before);
+        composeAt(m_after, (moment + 1) * m_interval);
+        const Share weight = shareOf(std::clamp((time - before) / m_interval, 0.0, 1.0));
+        m_weights = {static_cast<Share>(~weight), weight};
+    } else {
+        composeAt(m_before, time);
+        m_weights = {shareOf(1), 0};
+    }
+    std::ranges::transform(m_before.dotBlocks, m_after.dotBlocks, m_dotBlocks.begin(), std::bit_or());
+}
+
+/// Composes what is asked for at that time, unless it is there already.
+void NeuralNetworkRenderer::composeAt(Composition& composition, double time)
+{
+    if (composition.time == time && (m_blurred - composition.region).isEmpty())
+        return;
+    composition.time = time;
+    composition.region = m_blurred;
+    const std::vector<QPointF> positions = nodePositions(m_size, time, m_speed);
+    findLinks(positions);
+    drawGlows(positions);
+    refine();
+    drawLines();
+    drawDots(composition, positions);
+    coarsen();
+    blur(m_coarse, m_finalKernel, m_blurred, composition.links);
+}
+
+/// Finds out what the stages have to do for that part of the picture, given in points.
+void NeuralNetworkRenderer::choose(const QRegion& part)
+{
+    if (part == m_part)
+        return;
+    m_part = part;
+    m_blurred = {};
+    for (const QRect& rect : part) {
+        const QRectF inPixels(QPointF(rect.topLeft()) * m_scale, QSizeF(rect.size()) * m_scale);
+        const QRect area = inPixels.toAlignedRect() & QRect(QPoint(), m_pixels);
         if (area.isEmpty())
             continue;
         const auto first = [](const std::vector<Tap>& taps, int pixel) {
             return taps[static_cast<std::size_t>(pixel)].first;
         };
-        written += area;
-        needed += QRect(QPoint(first(m_columnTaps, area.left()), first(m_rowTaps, area.top())),
-                        QPoint(first(m_columnTaps, area.right()) + 3, first(m_rowTaps, area.bottom()) + 3));
+        m_blurred +=
+            QRect(QPoint(first(m_columnTaps, area.left()), first(m_rowTaps, area.top())),
+                  QPoint(first(m_columnTaps, area.right()) + 3, first(m_rowTaps, area.bottom()) + 3));
     }
-    const QRegion blurred = grown(needed, kernelReach);
-    const QRegion fine = grown(blurred, 1);
-    const QRegion glowing = grown(fine, 1);
-    const std::vector<QPointF> positions = nodePositions(size, time, speed);
-    findLinks(positions, maxDist);
-    drawGlows(positions, glowing);
-    refine(fine);
-    drawLines(fine);
-    drawDots(positions, needed);
-    coarsen(blurred);
-    blur(m_coarse, m_finalKernel, needed);
-    write(image, scheme, written);
-    return image;
+    // A line leaves something up to two samples beside it. All that lines change is brought down anew for
+    // each frame: what is only ever multiplied ends in numbers too small to be computed fast.
+    const QSize plane(m_coarse.columns(), m_coarse.rows());
+    m_coarsened = grown(m_blurred, kernelReach);
+    m_lineBlocks.cover(grown(m_coarsened, 2), plane);
+    m_fineNeeded = grown(m_lineBlocks.region(), 1) & m_coarse.area(0);
+    m_glowing = grown(m_fineNeeded, 1);
+    m_glowLineBlocks.cover(grown(m_glowing, kernelReach + 2), plane);
 }
 
-void NeuralNetworkRenderer::prepare(QSize pixels, double scale)
+void NeuralNetworkRenderer::prepare(QSizeF size, double scale)
 {
-    m_pixels = pixels;
+    m_size = size;
+    m_pixels = (size * scale).toSize();
     m_scale = scale;
-    const int columns = static_cast<int>(std::ceil(pixels.width() / scale / 2 - 1e-6));
-    const int rows = static_cast<int>(std::ceil(pixels.height() / scale / 2 - 1e-6));
+    m_interval = intervalFor(size, m_speed);
+    m_part = {};
+    const int columns = static_cast<int>(std::ceil(m_pixels.width() / scale / 2 - 1e-6));
+    const int rows = static_cast<int>(std::ceil(m_pixels.height() / scale / 2 - 1e-6));
     m_coarse.reshape(columns, rows);
     m_scratch.reshape(columns, rows);
-    m_dots.reshape(columns, rows);
     m_fine.reshape(2 * columns, 2 * rows);
     // Where lines overlap, it shows in their product how sharp their edges were before the blur.
     m_needsFinest = scale >= 1.5;
     m_finest.reshape(m_needsFinest ? 4 * columns : 0, m_needsFinest ? 4 * rows : 0);
     m_line.resize(static_cast<std::size_t>(m_fine.stride()));
     m_coarseShares.resize(static_cast<std::size_t>(m_coarse.stride()));
-    m_expanded.resize(8 * static_cast<std::size_t>(std::ceil(2 * scale) * columns));
+    m_expandedStride = static_cast<std::ptrdiff_t>(std::ceil(2 * scale)) * columns;
+    m_expanded.resize(8 * static_cast<std::size_t>(m_expandedStride));
 
     // On a finer screen the edges of lines are drawn sharper than the fine grid has them.
     const double sharper = (1 - 1 / (scale * scale)) * pixelVariance;
@@ -391,8 +509,8 @@ void NeuralNetworkRenderer::prepare(QSize pixels, double scale)
         m_dotKernels[1][i + 1] += share * 0.125F;
     }
 
-    m_columnTaps = tapsOf(pixels.width(), scale);
-    m_rowTaps = tapsOf(pixels.height(), scale);
+    m_columnTaps = tapsOf(m_pixels.width(), scale);
+    m_rowTaps = tapsOf(m_pixels.height(), scale);
     m_blockEnds.assign(static_cast<std::size_t>((columns + 2 * Plane::margin) / dotBlock + 1), 0);
     for (std::size_t i = 0; i < m_columnTaps.size(); ++i)
         m_blockEnds[static_cast<std::size_t>((m_columnTaps[i].first + Plane::margin) / dotBlock)] =
@@ -400,12 +518,20 @@ void NeuralNetworkRenderer::prepare(QSize pixels, double scale)
     for (std::size_t i = 1; i < m_blockEnds.size(); ++i)
         m_blockEnds[i] = std::max(m_blockEnds[i], m_blockEnds[i - 1]);
     m_dotBlocks.resize(m_blockEnds.size() * static_cast<std::size_t>(rows + 2 * Plane::margin));
+    for (Composition* composition : {&m_before, &m_after}) {
+        *composition = {};
+        composition->links.reshape(columns, rows);
+        composition->dots.reshape(columns, rows);
+        composition->dotBlocks.resize(m_dotBlocks.size());
+    }
 }
 
-/// Steps along the main direction of a line, one sample at a time; the points count in samples of the plane.
+/// Steps along the main direction of a line, one sample at a time; the points count in samples of the plane,
+/// the blocks' side as a binary logarithm.
 template <typename Combine>
-[[gnu::always_inline]] inline void NeuralNetworkRenderer::drawLine(Plane& plane, const LineProfiles& profiles,
-                                                                   QPointF from, QPointF to, Combine combine)
+[[gnu::always_inline]] inline void
+NeuralNetworkRenderer::drawLine(Plane& plane, const LineProfiles& profiles, QPointF from, QPointF to,
+                                const Blocks& blocks, int blockSide, Combine combine)
 {
     const bool steep = std::abs(to.y() - from.y()) > std::abs(to.x() - from.x());
     const std::ptrdiff_t across = steep ? 1 : plane.stride();
@@ -419,25 +545,39 @@ template <typename Combine>
     const double slope = (to.y() - from.y()) / (to.x() - from.x());
     const LineProfiles::Samples* const profile = profiles.of(slope);
     float* const origin = plane.row(0);
+    const auto isSeen = [&](int step, double at) {
+        const int main = step >> blockSide;
+        const int other = static_cast<int>(at) >> blockSide;
+        return steep ? blocks.contain(other, main) : blocks.contain(main, other);
+    };
     const int last = static_cast<int>(std::floor(to.x() + 0.5));
-    for (int step = static_cast<int>(std::floor(from.x() + 0.5)); step <= last; ++step) {
-        const double begin = std::max(step - 0.5, from.x());
-        const double end = std::min(step + 0.5, to.x());
-        const double middle = from.y() + slope * ((begin + end) / 2 - from.x()) + Plane::margin;
-        const int whole = static_cast<int>(middle); // the margin has made it positive
-        const auto phase = static_cast<int>((middle - whole) * LineProfiles::phases);
-        const LineProfiles::Samples& samples = profile[phase];
-        float* const target = origin + step * onward + (whole - Plane::margin - 1) * across;
-        const auto length = static_cast<float>(end - begin);
-        combine(target[0], length * samples[0]);
-        combine(target[across], length * samples[1]);
-        combine(target[2 * across], length * samples[2]);
-        combine(target[3 * across], length * samples[3]);
+    for (int step = static_cast<int>(std::floor(from.x() + 0.5)); step <= last;) {
+        // To the end of the block; there the line may have come to the next one beside.
+        const int stop = std::min(last, step | ((1 << blockSide) - 1));
+        const double here = from.y() + slope * (step - from.x());
+        if (!isSeen(step, here) && !isSeen(step, here + slope * (stop - step))) {
+            step = stop + 1;
+            continue;
+        }
+        for (; step <= stop; ++step) {
+            const double begin = std::max(step - 0.5, from.x());
+            const double end = std::min(step + 0.5, to.x());
+            const double middle = from.y() + slope * ((begin + end) / 2 - from.x()) + Plane::margin;
+            const int whole = static_cast<int>(middle); // the margin has made it positive
+            const auto phase = static_cast<int>((middle - whole) * LineProfiles::phases);
+            const LineProfiles::Samples& samples = profile[phase];
+            float* const target = origin + step * onward + (whole - Plane::margin - 1) * across;
+            const auto length = static_cast<float>(end - begin);
+            combine(target[0], length * samples[0]);
+            combine(target[across], length * samples[1]);
+            combine(target[2 * across], length * samples[2]);
+            combine(target[3 * across], length * samples[3]);
+        }
     }
 }
 
 /// Finds each pair of nodes that are linked, and the opacity of the link.
-void NeuralNetworkRenderer::findLinks(const std::vector<QPointF>& positions, double maxDist)
+void NeuralNetworkRenderer::findLinks(const std::vector<QPointF>& positions)
 {
     m_links.clear();
     for (std::size_t i = 0; i < positions.size(); ++i) {
@@ -445,29 +585,30 @@ void NeuralNetworkRenderer::findLinks(const std::vector<QPointF>& positions, dou
             const QPointF way = positions[j] - positions[i];
             const double distance = std::sqrt(QPointF::dotProduct(way, way));
             // Without length there is no line to see, nor a direction.
-            if (distance < maxDist && distance > 0)
-                m_links.push_back({positions[i], positions[j], (1 - distance / maxDist) * linkOpacity});
+            if (distance < m_maxDist && distance > 0)
+                m_links.push_back({positions[i], positions[j], (1 - distance / m_maxDist) * linkOpacity});
         }
     }
 }
 
 /// Leaves the transmittance of all glows in the coarse plane.
-ARDEO_WIDE void NeuralNetworkRenderer::drawGlows(const std::vector<QPointF>& positions, const QRegion& region)
+ARDEO_WIDE void NeuralNetworkRenderer::drawGlows(const std::vector<QPointF>& positions)
 {
     // One blur for all links: their optical depths add up, and for one link depth and opacity are nearly the
     // same. What the depth has more is proportional to the square of the profile; the constant gives it on
     // the whole.
     const double peak = linkGlowWidth / std::sqrt(2 * std::numbers::pi * linkGlowVariance);
     const auto coarse = [](QPointF point) { return (point - QPointF(1, 1)) / 2; };
-    m_coarse.fill(0);
+    m_coarse.fill(grown(m_glowLineBlocks.region(), 2), 0);
     for (const auto& [from, to, opacity] : m_links) {
         const double depth = opacity * linkGlowOpacity * (1 + 0.35 * peak * opacity * linkGlowOpacity);
         drawLine(
-            m_coarse, m_glowProfiles, coarse(from), coarse(to),
+            m_coarse, m_glowProfiles, coarse(from), coarse(to), m_glowLineBlocks, Blocks::side,
             [weight = static_cast<float>(depth)](float& sample, float share) { sample += weight * share; });
     }
-    blur(m_coarse, m_glowKernel, region);
-    for (const QRect& part : region.intersected(m_coarse.area(1))) {
+    blur(m_coarse, m_glowKernel, m_glowing, m_coarse);
+    const QRegion seen = m_glowing & m_coarse.area(1);
+    for (const QRect& part : seen) {
         for (int y = part.top(); y <= part.bottom(); ++y) {
             float* const row = m_coarse.row(y);
             for (int x = part.left(); x <= part.right(); ++x)
@@ -477,17 +618,20 @@ ARDEO_WIDE void NeuralNetworkRenderer::drawGlows(const std::vector<QPointF>& pos
     for (const QPointF& position : positions) {
         const QPointF centre = coarse(position);
         constexpr double reach = nodeGlowReach / 2.0;
-        const int left = std::max(-1, static_cast<int>(std::ceil(centre.x() - reach)));
-        const int right = std::min(m_coarse.columns(), static_cast<int>(std::floor(centre.x() + reach)));
-        const int top = std::max(-1, static_cast<int>(std::ceil(centre.y() - reach)));
-        const int bottom = std::min(m_coarse.rows(), static_cast<int>(std::floor(centre.y() + reach)));
-        for (int y = top; y <= bottom; ++y) {
-            float* const row = m_coarse.row(y);
-            const auto centreX = static_cast<float>(centre.x());
-            const auto squareY = static_cast<float>(square(y - centre.y()));
-            for (int x = left; x <= right; ++x) {
-                const float way = static_cast<float>(x) - centreX;
-                row[x] *= glowTransmittance((way * way + squareY) * static_cast<float>(coarseCell));
+        const QRect disc(QPoint(static_cast<int>(std::ceil(centre.x() - reach)),
+                                static_cast<int>(std::ceil(centre.y() - reach))),
+                         QPoint(static_cast<int>(std::floor(centre.x() + reach)),
+                                static_cast<int>(std::floor(centre.y() + reach))));
+        for (const QRect& rect : seen) {
+            const QRect part = rect & disc;
+            for (int y = part.top(); y <= part.bottom(); ++y) {
+                float* const row = m_coarse.row(y);
+                const auto centreX = static_cast<float>(centre.x());
+                const auto squareY = static_cast<float>(square(y - centre.y()));
+                for (int x = part.left(); x <= part.right(); ++x) {
+                    const float way = static_cast<float>(x) - centreX;
+                    row[x] *= glowTransmittance((way * way + squareY) * static_cast<float>(coarseCell));
+                }
             }
         }
     }
@@ -501,22 +645,24 @@ inline float NeuralNetworkRenderer::glowTransmittance(float squareDistance) cons
 }
 
 /// Adds the lines to the fine plane.
-ARDEO_WIDE void NeuralNetworkRenderer::drawLines(const QRegion& region)
+ARDEO_WIDE void NeuralNetworkRenderer::drawLines()
 {
     Plane& plane = m_needsFinest ? m_finest : m_fine;
     const LineProfiles& profiles = m_needsFinest ? m_finestLineProfiles : m_lineProfiles;
     const double density = m_needsFinest ? 2 : 1;
+    const int blockSide = Blocks::side + (m_needsFinest ? 2 : 1);
     const QPointF half(0.5, 0.5);
-    m_finest.fill(1);
+    if (m_needsFinest)
+        m_finest.fill(refined(m_fineNeeded, 4), 1);
     for (const auto& [from, to, opacity] : m_links) {
-        drawLine(plane, profiles, from * density - half, to * density - half,
+        drawLine(plane, profiles, from * density - half, to * density - half, m_lineBlocks, blockSide,
                  [weight = static_cast<float>(opacity)](float& sample, float share) {
                      sample -= sample * weight * share;
                  });
     }
     if (!m_needsFinest)
         return;
-    for (const QRect& part : region.intersected(m_coarse.area(0))) {
+    for (const QRect& part : m_fineNeeded) {
         for (int y = 2 * part.top(); y < 2 * part.bottom() + 2; ++y) {
             const float* const upper = m_finest.row(2 * y);
             const float* const lower = m_finest.row(2 * y + 1);
@@ -528,10 +674,13 @@ ARDEO_WIDE void NeuralNetworkRenderer::drawLines(const QRegion& region)
 }
 
 /// The dots take part in the order of the nodes: the few pixels they touch are composed anew, node by node.
-ARDEO_WIDE void NeuralNetworkRenderer::drawDots(const std::vector<QPointF>& positions, const QRegion& region)
+ARDEO_WIDE void NeuralNetworkRenderer::drawDots(Composition& composition,
+                                                const std::vector<QPointF>& positions)
 {
-    m_dots.fill(0);
-    std::fill(m_dotBlocks.begin(), m_dotBlocks.end(), std::uint8_t{0});
+    for (const QRect& rect : composition.dotted)
+        composition.dots.fill(rect, 0);
+    composition.dotted.clear();
+    std::fill(composition.dotBlocks.begin(), composition.dotBlocks.end(), std::uint8_t{0});
     const int columns =
         std::min(m_fine.columns(), static_cast<int>(std::ceil(m_pixels.width() / m_scale - 1e-6)));
     const int rows = std::min(m_fine.rows(), static_cast<int>(std::ceil(m_pixels.height() / m_scale - 1e-6)));
@@ -542,8 +691,10 @@ ARDEO_WIDE void NeuralNetworkRenderer::drawDots(const std::vector<QPointF>& posi
     for (const QPointF& centre : positions) {
         const QPoint coarse = (centre / 2).toPoint();
         constexpr QPoint reach(kernelReach + 3, kernelReach + 3);
-        if (!region.intersects(QRect(coarse - reach, coarse + reach)))
+        const QRect reached(coarse - reach, coarse + reach);
+        if (!m_blurred.intersects(reached))
             continue;
+        composition.dotted.push_back(reached);
         // In their order, the nodes whose glow or dot reaches a pixel of this dot.
         near.clear();
         std::size_t earlier = 0;
@@ -584,35 +735,37 @@ ARDEO_WIDE void NeuralNetworkRenderer::drawDots(const std::vector<QPointF>& posi
                     }
                 }
                 sample = through;
-                drawDotPixel(x, y, dots);
+                drawDotPixel(composition, x, y, dots);
             }
         }
     }
 }
 
 /// Adds a pixel of dot colour to the plane of the dots, coarsened and blurred at once.
-void NeuralNetworkRenderer::drawDotPixel(int x, int y, float weight)
+void NeuralNetworkRenderer::drawDotPixel(Composition& composition, int x, int y, float weight)
 {
     const auto& across = m_dotKernels[static_cast<std::size_t>(x % 2)];
     const auto& down = m_dotKernels[static_cast<std::size_t>(y % 2)];
     const int left = x / 2 - 5 + x % 2;
     const int top = y / 2 - 5 + y % 2;
     for (std::size_t j = 0; j < down.size(); ++j) {
-        float* const row = m_dots.row(top + static_cast<int>(j)) + left;
-        const float share = weight * down[j];
+        Share* const row = composition.dots.row(top + static_cast<int>(j)) + left;
+        const float share = wholeSample * weight * down[j];
         for (std::size_t i = 0; i < across.size(); ++i)
-            row[i] += share * across[i];
+            row[i] = static_cast<Share>(row[i] + static_cast<Share>(share * across[i] + 0.5F));
     }
     // Marked are the taps that read any of these samples.
     const int firstBlock = std::max(0, left - 3 + Plane::margin) / dotBlock;
     const int lastBlock = (left + 9 + Plane::margin) / dotBlock;
     const int blocks = static_cast<int>(m_blockEnds.size());
     for (int j = std::max(0, top - 3 + Plane::margin); j <= top + 9 + Plane::margin; ++j)
-        std::fill_n(m_dotBlocks.begin() + j * blocks + firstBlock, lastBlock - firstBlock + 1,
+        std::fill_n(composition.dotBlocks.begin() + j * blocks + firstBlock, lastBlock - firstBlock + 1,
                     std::uint8_t{1});
 }
 
-ARDEO_WIDE void NeuralNetworkRenderer::blur(Plane& plane, const Kernel& kernel, const QRegion& region)
+template <typename Sample>
+ARDEO_WIDE void NeuralNetworkRenderer::blur(Plane& plane, const Kernel& kernel, const QRegion& region,
+                                            Grid<Sample>& result)
 {
     const auto [k0, k1, k2, k3, k4] = kernel;
     const QRegion blurred = region & plane.area(Plane::margin - kernelReach);
@@ -629,21 +782,26 @@ ARDEO_WIDE void NeuralNetworkRenderer::blur(Plane& plane, const Kernel& kernel, 
     for (const QRect& part : blurred) {
         for (int y = part.top(); y <= part.bottom(); ++y) {
             const float* const in = m_scratch.row(y);
-            float* __restrict const out = plane.row(y);
-            for (int x = part.left(); x <= part.right(); ++x)
-                out[x] = k0 * in[x] + k1 * (in[x - next] + in[x + next]) +
-                         k2 * (in[x - 2 * next] + in[x + 2 * next]) +
-                         k3 * (in[x - 3 * next] + in[x + 3 * next]) +
-                         k4 * (in[x - 4 * next] + in[x + 4 * next]);
+            Sample* __restrict const out = result.row(y);
+            for (int x = part.left(); x <= part.right(); ++x) {
+                const float sum = k0 * in[x] + k1 * (in[x - next] + in[x + next]) +
+                                  k2 * (in[x - 2 * next] + in[x + 2 * next]) +
+                                  k3 * (in[x - 3 * next] + in[x + 3 * next]) +
+                                  k4 * (in[x - 4 * next] + in[x + 4 * next]);
+                if constexpr (std::is_same_v<Sample, Share>)
+                    out[x] = static_cast<Share>(std::max(sum, 0.0F) * wholeSample);
+                else
+                    out[x] = sum;
+            }
         }
     }
 }
 
 /// Brings the coarse plane to the fine one, linearly.
-ARDEO_WIDE void NeuralNetworkRenderer::refine(const QRegion& region)
+ARDEO_WIDE void NeuralNetworkRenderer::refine()
 {
     float* __restrict const line = m_line.data() + 1;
-    for (const QRect& part : region.intersected(m_coarse.area(0))) {
+    for (const QRect& part : m_fineNeeded) {
         for (int y = 2 * part.top(); y < 2 * part.bottom() + 2; ++y) {
             const float* const near = m_coarse.row(y / 2);
             const float* const far = m_coarse.row(y / 2 + (y % 2 == 0 ? -1 : 1));
@@ -659,7 +817,7 @@ ARDEO_WIDE void NeuralNetworkRenderer::refine(const QRegion& region)
 }
 
 /// Brings the opacity of the fine plane to the coarse one. The canvas ends at its edges.
-ARDEO_WIDE void NeuralNetworkRenderer::coarsen(const QRegion& region)
+ARDEO_WIDE void NeuralNetworkRenderer::coarsen()
 {
     const double width = m_pixels.width() / m_scale;
     const double height = m_pixels.height() / m_scale;
@@ -681,9 +839,9 @@ ARDEO_WIDE void NeuralNetworkRenderer::coarsen(const QRegion& region)
                 row[x] = 1 - (1 - row[x]) * rowShare;
     }
 
-    m_coarse.fill(0);
+    m_coarse.fill(m_coarsened, 0);
     float* __restrict const line = m_line.data() + Plane::margin;
-    for (const QRect& part : region.intersected(m_coarse.area(1))) {
+    for (const QRect& part : m_coarsened.intersected(m_coarse.area(1))) {
         for (int y = part.top(); y <= part.bottom(); ++y) {
             const float* const before = m_fine.row(2 * y - 1);
             const float* const first = m_fine.row(2 * y);
@@ -729,71 +887,107 @@ ARDEO_WIDE void NeuralNetworkRenderer::expand(const Share* in, Share* __restrict
     }
 }
 
-/// Brings the coarse planes to device pixels, by cubic splines.
-ARDEO_WIDE void NeuralNetworkRenderer::write(QImage& image, ColorScheme scheme, const QRegion& region)
+/// Brings a coarse row to the pixels of the picture's rows, from that pixel up to another one.
+ARDEO_WIDE void NeuralNetworkRenderer::expandRow(int row, int from, int to)
 {
-    const Palette& palette = scheme == ColorScheme::dark ? darkPalette : lightPalette;
-    const std::size_t blocks = m_blockEnds.size();
-    const auto stride = static_cast<std::ptrdiff_t>(m_expanded.size() / 8);
-    const auto expandedLinks = [&](int row) { return m_expanded.data() + (row & 3) * stride; };
-    const auto expandedDots = [&](int row) { return m_expanded.data() + (4 + (row & 3)) * stride; };
-    const auto marks = [&](int row) {
-        return m_dotBlocks.data() + static_cast<std::size_t>(row + Plane::margin) * blocks;
-    };
     Share* const line = m_coarseShares.data() + Plane::margin;
-    const auto takeLine = [&](const float* row) {
-        for (int x = -Plane::margin; x < m_coarse.columns() + Plane::margin; ++x)
-            line[x] = static_cast<Share>(std::max(row[x], 0.0F) * wholeSample);
+    const auto tapAt = [this](int pixel) { return m_columnTaps[static_cast<std::size_t>(pixel)].first; };
+    const auto blend = [&](SharePlane Composition::*plane, int begin, int end) {
+        const Share* const before = (m_before.*plane).row(row);
+        const Share* const after = (m_after.*plane).row(row);
+        const auto [first, second] = m_weights;
+        const int last = tapAt(end - 1) + 3;
+        for (int x = tapAt(begin); x <= last; ++x)
+            line[x] = static_cast<Share>(times(before[x], first) + times(after[x], second));
     };
-    int expanded = m_rowTaps.front().first;
+    blend(&Composition::links, from, to);
+    expand(line, expandedLinks(row), from, to);
+    auto block = static_cast<std::size_t>((tapAt(from) + Plane::margin) / dotBlock);
+    for (int begin = from; begin < to; ++block) {
+        const int end = std::min(to, m_blockEnds[block]);
+        const auto isMarked = [&](int above) { return dotMarks(row - above)[block] != 0; };
+        if (isMarked(0) || isMarked(1) || isMarked(2) || isMarked(3)) {
+            blend(&Composition::dots, begin, end);
+            expand(line, expandedDots(row), begin, end);
+        }
+        begin = end;
+    }
+}
+
+/// Brings the coarse planes to device pixels, by cubic splines.
+ARDEO_WIDE const QImage& NeuralNetworkRenderer::picture(const QRect& pixels, ColorScheme scheme,
+                                                        QColor ground)
+{
+    if (m_picture.size() != pixels.size())
+        m_picture = QImage(pixels.size(), QImage::Format_RGB32);
+    const std::array<Channel, 3> channels = channelsOf(scheme, ground);
+    int expanded = m_rowTaps[static_cast<std::size_t>(pixels.top())].first;
     int taken = expanded - 1;
-    for (const QRect* part = region.begin(); part != region.end();) {
-        // Rectangles one beside the other share their rows.
-        const QRect* const band = part;
-        part =
-            std::find_if(band, region.end(), [&](const QRect& other) { return other.top() > band->top(); });
-        for (int y = band->top(); y <= band->bottom(); ++y) {
-            const auto& [first, weights] = m_rowTaps[static_cast<std::size_t>(y)];
-            for (expanded = std::max(expanded, first); expanded <= first + 3; ++expanded) {
-                takeLine(m_coarse.row(expanded));
-                expand(line, expandedLinks(expanded), 0, image.width());
-                takeLine(m_dots.row(expanded));
-                for (std::size_t block = 0; block < blocks; ++block) {
-                    if (marks(expanded)[block] || marks(expanded - 1)[block] || marks(expanded - 2)[block] ||
-                        marks(expanded - 3)[block])
-                        expand(line, expandedDots(expanded), block == 0 ? 0 : m_blockEnds[block - 1],
-                               m_blockEnds[block]);
-                }
-            }
-            if (std::exchange(taken, first) != first) {
-                m_runs.clear();
-                for (std::size_t block = 0; block < blocks; ++block) {
-                    const bool withDots = marks(first)[block] != 0;
-                    if (m_runs.empty() || m_runs.back().withDots != withDots)
-                        m_runs.push_back({m_blockEnds[block], withDots});
-                    m_runs.back().end = m_blockEnds[block];
-                }
-            }
-            std::array<const Share*, 4> links;
-            std::array<const Share*, 4> dots;
-            for (int i = 0; i < 4; ++i) {
-                links[static_cast<std::size_t>(i)] = expandedLinks(first + i);
-                dots[static_cast<std::size_t>(i)] = expandedDots(first + i);
-            }
-            auto* const out = reinterpret_cast<std::uint32_t*>(image.scanLine(y));
-            for (const QRect* rect = band; rect != part; ++rect) {
-                int from = rect->left();
-                for (const auto& [end, withDots] : m_runs) {
-                    const int to = std::min(end, rect->right() + 1);
-                    if (withDots)
-                        writeRow<true>(out, from, to, links, dots, weights, palette);
-                    else
-                        writeRow<false>(out, from, to, links, dots, weights, palette);
-                    from = std::max(from, to);
-                }
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+        const auto& [first, weights] = m_rowTaps[static_cast<std::size_t>(y)];
+        for (; expanded <= first + 3; ++expanded)
+            expandRow(expanded, pixels.left(), pixels.right() + 1);
+        if (std::exchange(taken, first) != first) {
+            m_runs.clear();
+            for (std::size_t block = 0; block < m_blockEnds.size(); ++block) {
+                const bool withDots = dotMarks(first)[block] != 0;
+                if (m_runs.empty() || m_runs.back().withDots != withDots)
+                    m_runs.push_back({m_blockEnds[block], withDots});
+                m_runs.back().end = m_blockEnds[block];
             }
         }
+        std::array<const Share*, 4> links;
+        std::array<const Share*, 4> dots;
+        for (int i = 0; i < 4; ++i) {
+            links[static_cast<std::size_t>(i)] = expandedLinks(first + i);
+            dots[static_cast<std::size_t>(i)] = expandedDots(first + i);
+        }
+        auto* const out =
+            reinterpret_cast<std::uint32_t*>(m_picture.scanLine(y - pixels.top())) - pixels.left();
+        int from = pixels.left();
+        for (const auto& [end, withDots] : m_runs) {
+            const int to = std::min(end, pixels.right() + 1);
+            if (withDots)
+                writeRow<true>(out, from, to, links, dots, weights, channels);
+            else
+                writeRow<false>(out, from, to, links, dots, weights, channels);
+            from = std::max(from, to);
+        }
     }
+    return m_picture;
+}
+
+QImage NeuralNetworkRenderer::reduced(QSize size, ColorScheme scheme, QColor ground)
+{
+    const std::array<Channel, 3> channels = channelsOf(scheme, ground);
+    QImage image(size, QImage::Format_RGB32);
+    for (int row = 0; row < size.height(); ++row) {
+        const int top = row * m_coarse.rows() / size.height();
+        const int bottom = std::max(top + 1, (row + 1) * m_coarse.rows() / size.height());
+        for (int column = 0; column < size.width(); ++column) {
+            const int left = column * m_coarse.columns() / size.width();
+            const int right = std::max(left + 1, (column + 1) * m_coarse.columns() / size.width());
+            const auto average = [&](SharePlane Composition::*plane) {
+                std::uint64_t sum = 0;
+                for (int y = top; y < bottom; ++y) {
+                    const Share* const before = (m_before.*plane).row(y);
+                    const Share* const after = (m_after.*plane).row(y);
+                    for (int x = left; x < right; ++x)
+                        sum += times(before[x], m_weights[0]) + times(after[x], m_weights[1]);
+                }
+                return static_cast<Share>(sum / static_cast<std::uint64_t>((bottom - top) * (right - left)));
+            };
+            const Share link = average(&Composition::links);
+            const Share dot = average(&Composition::dots);
+            const auto mixed = [link, dot](const Channel& channel) {
+                return static_cast<Share>(channel.ground + along(channel.link, link) +
+                                          along(channel.dot, dot)) >>
+                       8;
+            };
+            image.setPixel(column, row, qRgb(mixed(channels[0]), mixed(channels[1]), mixed(channels[2])));
+        }
+    }
+    return image;
 }
 
 } // namespace ardeo

@@ -98,17 +98,20 @@ public:
     }
 
     /// The largest difference of any channel, in steps of 1/255.
-    int differenceFrom(const QImage& image) const
+    int differenceFrom(const QImage& image, QColor ground) const
     {
+        const std::array grounds{ground.redF() * 255, ground.greenF() * 255, ground.blueF() * 255};
         int largest = 0;
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x) {
                 const QRgb pixel = reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];
-                const std::array channels{qRed(pixel), qGreen(pixel), qBlue(pixel), qAlpha(pixel)};
+                const std::array channels{qRed(pixel), qGreen(pixel), qBlue(pixel)};
                 const auto index = static_cast<std::size_t>(y * image.width() + x);
-                for (std::size_t i = 0; i < 4; ++i)
-                    largest =
-                        std::max(largest, std::abs(channels[i] - qRound(m_channels[i].samples[index] * 255)));
+                const auto through = 1 - m_channels[3].samples[index];
+                for (std::size_t i = 0; i < channels.size(); ++i) {
+                    const auto meant = m_channels[i].samples[index] * 255 + through * grounds[i];
+                    largest = std::max(largest, std::abs(channels[i] - qRound(meant)));
+                }
             }
         }
         return largest;
