@@ -1,5 +1,13 @@
 #include "platform/linux/NetworkManagerSession.h"
 
+/// The TLS library that comes with libnm asks this when it is loaded: whether to leave its initialisation to
+/// those who use it. libnm initialises it before it looks at a certificate, which hardly ever happens here, so
+/// that each start and half a megabyte are saved.
+extern "C" int _gnutls_global_init_skip()
+{
+    return 1;
+}
+
 namespace ardeo
 {
 
