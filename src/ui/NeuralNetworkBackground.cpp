@@ -66,6 +66,7 @@ void NeuralNetworkBackground::hideEvent(QHideEvent*)
     // Nobody sees it, maybe for days.
     forgetFrame();
     m_renderer.reset();
+    m_ticks = 0;
 }
 
 bool NeuralNetworkBackground::eventFilter(QObject* watched, QEvent* event)
@@ -97,7 +98,7 @@ void NeuralNetworkBackground::timerEvent(QTimerEvent*)
 {
     m_time = m_clock.referenceTime();
     m_composed = {};
-    if (++m_ticks % coveredTicks != 0)
+    if (m_ticks++ % coveredTicks != 0)
         return update(QRegion(rect()) - m_covered());
     m_backdrop = {};
     update();
@@ -107,6 +108,11 @@ void NeuralNetworkBackground::forgetFrame()
 {
     m_composed = {};
     m_backdrop = {};
+}
+
+bool NeuralNetworkBackground::isPostponed() const
+{
+    return m_ticks == 0 && look::duration(this, 1) > 0;
 }
 
 NeuralNetworkRenderer& NeuralNetworkBackground::frame(const QRegion& part)
@@ -122,7 +128,10 @@ NeuralNetworkRenderer& NeuralNetworkBackground::frame(const QRegion& part)
 
 const QImage& NeuralNetworkBackground::backdrop()
 {
-    if (m_backdrop.isNull() && !size().isEmpty()) {
+    if (isPostponed()) {
+        m_backdrop = QImage(1, 1, QImage::Format_RGB32);
+        m_backdrop.fill(look::colours(this).window);
+    } else if (m_backdrop.isNull() && !size().isEmpty()) {
         const QSize small(qMax(1, width() / backdropScale), qMax(1, height() / backdropScale));
         m_backdrop = frame(rect()).reduced(small, look::schemeOf(this), look::colours(this).window);
     }
@@ -132,6 +141,8 @@ const QImage& NeuralNetworkBackground::backdrop()
 void NeuralNetworkBackground::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
+    if (isPostponed())
+        return painter.fillRect(event->rect(), look::colours(this).window);
     const double scale = devicePixelRatioF();
     const QRect all(QPoint(), (QSizeF(size()) * scale).toSize());
     NeuralNetworkRenderer& network = frame(event->region());

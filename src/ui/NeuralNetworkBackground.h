@@ -40,6 +40,9 @@ protected:
 
 private:
     void startOrStop();
+    /// Whether there is only the ground yet. The first frame takes a few milliseconds, which the window needs
+    /// more urgently when it appears; so it comes with the first tick.
+    bool isPostponed() const;
     /// Frames are drawn when they are looked at: at the start a window changes its size and looks many times.
     void forgetFrame();
     /// The current frame, of which at least that part is composed.
