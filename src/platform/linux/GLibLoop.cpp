@@ -19,9 +19,7 @@ GRef<GAsyncResult> GLibLoop::call(QDeadlineTimer deadline, const Start& start)
     const GAsyncReadyCallback keepResult = [](GObject*, GAsyncResult* ended, gpointer where) {
         *static_cast<GAsyncResult**>(where) = static_cast<GAsyncResult*>(g_object_ref(ended));
     };
-    g_main_context_push_thread_default(m_context);
-    start(cancellable.get(), keepResult, &result);
-    g_main_context_pop_thread_default(m_context);
+    this->start([&] { start(cancellable.get(), keepResult, &result); });
     const auto ended = [&] { return result != nullptr; };
     if (!runUntil(deadline, ended)) {
         g_cancellable_cancel(cancellable.get());
@@ -29,6 +27,13 @@ GRef<GAsyncResult> GLibLoop::call(QDeadlineTimer deadline, const Start& start)
         runUntil(QDeadlineTimer(QDeadlineTimer::Forever), ended);
     }
     return GRef<GAsyncResult>(result);
+}
+
+void GLibLoop::start(const std::function<void()>& begin)
+{
+    g_main_context_push_thread_default(m_context);
+    begin();
+    g_main_context_pop_thread_default(m_context);
 }
 
 bool GLibLoop::runUntil(QDeadlineTimer deadline, const std::function<bool()>& condition)

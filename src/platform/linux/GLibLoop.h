@@ -60,6 +60,9 @@ public:
     using Start = std::function<void(GCancellable*, GAsyncReadyCallback, gpointer)>;
     GRef<GAsyncResult> call(QDeadlineTimer deadline, const Start& start);
 
+    /// Starts what will end on this loop, and returns at once.
+    void start(const std::function<void()>& begin);
+
     /// Handles what arrives until the condition holds; false when the deadline comes first.
     bool runUntil(QDeadlineTimer deadline, const std::function<bool()>& condition);
 

@@ -24,6 +24,7 @@ private:
     /// Handles that live at the same time belong to one operation and share its snapshot.
     std::shared_ptr<NetworkManagerSession> session();
 
+    SystemBus m_bus;
     std::weak_ptr<NetworkManagerSession> m_session;
     std::atomic<DaemonPresence> m_presence = DaemonPresence::answers;
     SystemStatus m_status = SystemStatus::ok;

@@ -1,8 +1,8 @@
 #include "platform/linux/NetworkManagerSession.h"
 
 /// The TLS library that comes with libnm asks this when it is loaded: whether to leave its initialisation to
-/// those who use it. libnm initialises it before it looks at a certificate, which hardly ever happens here, so
-/// that each start and half a megabyte are saved.
+/// those who use it. libnm initialises it before it looks at a certificate, which hardly ever happens here,
+/// so that each start and half a megabyte are saved.
 extern "C" int _gnutls_global_init_skip()
 {
     return 1;
@@ -18,8 +18,9 @@ constexpr int operationMilliseconds = 10'000;
 
 } // namespace
 
-NetworkManagerSession::NetworkManagerSession(std::atomic<DaemonPresence>& presence)
-    : m_presence(presence)
+NetworkManagerSession::NetworkManagerSession(SystemBus& bus, std::atomic<DaemonPresence>& presence)
+    : m_bus(bus)
+    , m_presence(presence)
     , m_deadline(operationMilliseconds)
 {
 }
@@ -34,17 +35,17 @@ NMClient* NetworkManagerSession::client()
     if (m_asked)
         return m_client.get();
     m_asked = true;
-    const auto bus = m_loop.systemBus(m_deadline);
+    GDBusConnection* const bus = m_bus.connection(m_deadline);
     if (!bus) {
         m_presence = DaemonPresence::absent;
         return nullptr;
     }
     auto result =
-        m_loop.call(m_deadline, [&bus](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+        m_loop.call(m_deadline, [bus](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
             // The permissions of this process are not asked for: that is polkit's to tell, and only when
             // needed.
             g_async_initable_new_async(NM_TYPE_CLIENT, G_PRIORITY_DEFAULT, cancellable, done, data,
-                                       NM_CLIENT_DBUS_CONNECTION, bus.get(), NM_CLIENT_INSTANCE_FLAGS,
+                                       NM_CLIENT_DBUS_CONNECTION, bus, NM_CLIENT_INSTANCE_FLAGS,
                                        NM_CLIENT_INSTANCE_FLAGS_NO_AUTO_FETCH_PERMISSIONS, nullptr);
         });
     m_client.reset(nm_client_new_finish(result.get(), nullptr));

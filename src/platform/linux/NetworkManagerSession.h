@@ -3,6 +3,7 @@
 #include "platform/SystemConfiguration.h"
 #include "platform/linux/GLibLoop.h"
 #include "platform/linux/LibNM.h"
+#include "platform/linux/SystemBus.h"
 
 #include <atomic>
 
@@ -18,7 +19,7 @@ class NetworkManagerSession
 {
 public:
     /// What it finds out about the daemon's presence is stored in presence.
-    explicit NetworkManagerSession(std::atomic<DaemonPresence>& presence);
+    NetworkManagerSession(SystemBus& bus, std::atomic<DaemonPresence>& presence);
     NetworkManagerSession(const NetworkManagerSession&) = delete;
     NetworkManagerSession& operator=(const NetworkManagerSession&) = delete;
     ~NetworkManagerSession();
@@ -38,6 +39,7 @@ public:
 private:
     void disconnect();
 
+    SystemBus& m_bus;
     std::atomic<DaemonPresence>& m_presence;
     GLibLoop m_loop;
     QDeadlineTimer m_deadline;
