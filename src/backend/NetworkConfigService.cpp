@@ -5,6 +5,7 @@
 #include <QPromise>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace ardeo
@@ -26,6 +27,9 @@ const QString subnetMasksKey = QStringLiteral("SubnetMasks");
 const QString routerKey = QStringLiteral("Router");
 const QString serverAddressesKey = QStringLiteral("ServerAddresses");
 const QString searchDomainsKey = QStringLiteral("SearchDomains");
+
+/// How long the system is held ready for a next operation.
+constexpr std::chrono::milliseconds followUpTime(50);
 
 using Services = std::vector<std::shared_ptr<NetworkService>>;
 
@@ -299,6 +303,7 @@ NetworkConfigService::NetworkConfigService(SystemConfiguration& system) : m_syst
 
 NetworkConfigService::~NetworkConfigService()
 {
+    announce();
     m_thread.waitForDone();
 }
 
@@ -309,19 +314,38 @@ auto NetworkConfigService::run(Operation operation)
     auto promise = std::make_shared<QPromise<Result>>();
     QFuture<Result> future = promise->future();
     promise->start();
-    m_thread.start([promise, operation = std::move(operation)] {
-        Opened opened;
-        try {
-            if constexpr (std::is_void_v<Result>)
-                operation(opened);
-            else
-                promise->addResult(operation(opened));
-        } catch (...) {
-            promise->setException(std::current_exception());
+    m_thread.start([this, number = announce(), promise, operation = std::move(operation)] {
+        {
+            Opened opened;
+            try {
+                if constexpr (std::is_void_v<Result>)
+                    operation(opened);
+                else
+                    promise->addResult(operation(opened));
+            } catch (...) {
+                promise->setException(std::current_exception());
+            }
+            promise->finish();
         }
-        promise->finish();
+        restUnlessAsked(number);
     });
     return future;
+}
+
+/// Tells the thread that there is something else to do; returns its number.
+int NetworkConfigService::announce()
+{
+    const std::scoped_lock lock(m_asking);
+    m_next.notify_all();
+    return ++m_asked;
+}
+
+/// After a listing, for example, a service is read as soon as the list has been taken in.
+void NetworkConfigService::restUnlessAsked(int since)
+{
+    std::unique_lock lock(m_asking);
+    if (!m_next.wait_for(lock, followUpTime, [&] { return m_asked != since; }))
+        m_system.rest();
 }
 
 QFuture<QList<AdapterInfo>> NetworkConfigService::listAdapters()

@@ -7,6 +7,9 @@
 #include <QFuture>
 #include <QThreadPool>
 
+#include <condition_variable>
+#include <mutex>
+
 namespace ardeo
 {
 
@@ -40,8 +43,14 @@ public:
 private:
     template <typename Operation>
     auto run(Operation operation);
+    int announce();
+    void restUnlessAsked(int since);
 
     SystemConfiguration& m_system;
+    /// How many operations have been asked for, and the destruction.
+    int m_asked = 0;
+    std::mutex m_asking;
+    std::condition_variable m_next;
     QThreadPool m_thread;
 };
 

@@ -128,6 +128,9 @@ public:
     virtual std::unique_ptr<Preferences>
     createPreferencesWithAuthorization(const QString& name, AuthorizationRef authorization) = 0;
     virtual std::unique_ptr<DynamicStore> createDynamicStore(const QString& name) = 0;
+    /// Nothing will be asked for a while: gives up what was kept to answer the next operation sooner. Each
+    /// operation is told how things are at its moment in any case.
+    virtual void rest() {}
     /// The status of the last call of this library, as a code of SystemStatus.
     virtual qint32 error() const = 0;
 };

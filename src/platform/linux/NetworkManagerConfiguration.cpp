@@ -10,7 +10,7 @@ std::shared_ptr<NetworkManagerSession> NetworkManagerConfiguration::session()
 {
     auto session = m_session.lock();
     if (!session) {
-        session = std::make_shared<NetworkManagerSession>(m_bus, m_presence);
+        session = std::make_shared<NetworkManagerSession>(m_bus, m_kept, m_presence);
         m_session = session;
     }
     return session;

@@ -15,6 +15,7 @@ public:
     std::unique_ptr<Preferences> createPreferencesWithAuthorization(const QString& name,
                                                                     AuthorizationRef authorization) override;
     std::unique_ptr<DynamicStore> createDynamicStore(const QString& name) override;
+    void rest() override { m_kept.reset(); }
     qint32 error() const override { return static_cast<qint32>(m_status); }
 
     /// How the daemon was found the last time. May be called from any thread.
@@ -25,6 +26,7 @@ private:
     std::shared_ptr<NetworkManagerSession> session();
 
     SystemBus m_bus;
+    std::unique_ptr<DaemonView> m_kept;
     std::weak_ptr<NetworkManagerSession> m_session;
     std::atomic<DaemonPresence> m_presence = DaemonPresence::answers;
     SystemStatus m_status = SystemStatus::ok;

@@ -1,5 +1,7 @@
 #include "platform/linux/NetworkManagerSession.h"
 
+#include <utility>
+
 /// The TLS library that comes with libnm asks this when it is loaded: whether to leave its initialisation to
 /// those who use it. libnm initialises it before it looks at a certificate, which hardly ever happens here,
 /// so that each start and half a megabyte are saved.
@@ -16,69 +18,108 @@ namespace
 
 constexpr int operationMilliseconds = 10'000;
 
+/// Asks whoever has that name on the bus for the version of NetworkManager; null with the error when that
+/// fails.
+GVariantRef askForVersion(GLibLoop& loop, QDeadlineTimer deadline, GDBusConnection* bus, const char* name,
+                          GError** error)
+{
+    const auto result =
+        loop.call(deadline, [=](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+            g_dbus_connection_call(bus, name, NM_DBUS_PATH, "org.freedesktop.DBus.Properties", "Get",
+                                   g_variant_new("(ss)", NM_DBUS_INTERFACE, "Version"), nullptr,
+                                   G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, cancellable, done, data);
+        });
+    return GVariantRef(g_dbus_connection_call_finish(bus, result.get(), error));
+}
+
 } // namespace
 
-NetworkManagerSession::NetworkManagerSession(SystemBus& bus, std::atomic<DaemonPresence>& presence)
+DaemonView::~DaemonView()
+{
+    if (!client)
+        return;
+    // The client's calls that are still under way hold on to its context; they end only while it runs.
+    GWeakRef busy;
+    g_weak_ref_init(&busy, nm_client_get_context_busy_watcher(client.get()));
+    client.reset();
+    loop.runUntil(QDeadlineTimer(operationMilliseconds), [&busy] {
+        const GRef<GObject> alive(static_cast<GObject*>(g_weak_ref_get(&busy)));
+        return alive == nullptr;
+    });
+    g_weak_ref_clear(&busy);
+}
+
+NetworkManagerSession::NetworkManagerSession(SystemBus& bus, std::unique_ptr<DaemonView>& kept,
+                                             std::atomic<DaemonPresence>& presence)
     : m_bus(bus)
+    , m_kept(kept)
     , m_presence(presence)
     , m_deadline(operationMilliseconds)
+    , m_view(std::move(kept))
 {
+    if (!m_view)
+        m_view = std::make_unique<DaemonView>();
 }
 
 NetworkManagerSession::~NetworkManagerSession()
 {
-    disconnect();
+    if (m_view->client)
+        m_kept = std::move(m_view);
 }
 
 NMClient* NetworkManagerSession::client()
 {
-    if (m_asked)
-        return m_client.get();
-    m_asked = true;
+    if (std::exchange(m_asked, true))
+        return m_view->client.get();
+    return m_view->client && catchUp() ? m_view->client.get() : connect();
+}
+
+/// Learns all that has happened so far. The daemon answers in turn: what it told before comes before its
+/// answer. What is new makes the client ask for more, so that a second answer is waited for. False when the
+/// daemon is another one now, or none.
+bool NetworkManagerSession::catchUp()
+{
+    NMClient* const client = m_view->client.get();
+    GDBusConnection* const bus = nm_client_get_dbus_connection(client);
+    for (int answer = 0; answer < 2; ++answer) {
+        const char* const owner = nm_client_get_dbus_name_owner(client);
+        if (!owner || !askForVersion(m_view->loop, m_deadline, bus, owner, nullptr))
+            return false;
+    }
+    return nm_client_get_nm_running(client) != FALSE;
+}
+
+NMClient* NetworkManagerSession::connect()
+{
+    m_view = std::make_unique<DaemonView>();
     GDBusConnection* const bus = m_bus.connection(m_deadline);
     if (!bus) {
         m_presence = DaemonPresence::absent;
         return nullptr;
     }
-    auto result =
-        m_loop.call(m_deadline, [bus](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+    auto result = m_view->loop.call(
+        m_deadline, [bus](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
             // The permissions of this process are not asked for: that is polkit's to tell, and only when
             // needed.
             g_async_initable_new_async(NM_TYPE_CLIENT, G_PRIORITY_DEFAULT, cancellable, done, data,
                                        NM_CLIENT_DBUS_CONNECTION, bus, NM_CLIENT_INSTANCE_FLAGS,
                                        NM_CLIENT_INSTANCE_FLAGS_NO_AUTO_FETCH_PERMISSIONS, nullptr);
         });
-    m_client.reset(nm_client_new_finish(result.get(), nullptr));
+    m_view->client.reset(nm_client_new_finish(result.get(), nullptr));
     result.reset(); // it holds on to the client, too
-    if (m_client && nm_client_get_nm_running(m_client.get())) {
+    if (m_view->client && nm_client_get_nm_running(m_view->client.get())) {
         m_presence = DaemonPresence::answers;
-        return m_client.get();
+        return m_view->client.get();
     }
-    m_presence = m_client ? DaemonPresence::absent : DaemonPresence::silent;
-    disconnect();
+    m_presence = m_view->client ? DaemonPresence::absent : DaemonPresence::silent;
+    m_view = std::make_unique<DaemonView>();
     return nullptr;
 }
 
 NMClient* NetworkManagerSession::reconnect()
 {
-    disconnect();
-    m_asked = false;
-    return client();
-}
-
-void NetworkManagerSession::disconnect()
-{
-    if (!m_client)
-        return;
-    // The client's calls that are still under way hold on to its context; they end only while it runs.
-    GWeakRef busy;
-    g_weak_ref_init(&busy, nm_client_get_context_busy_watcher(m_client.get()));
-    m_client.reset();
-    m_loop.runUntil(QDeadlineTimer(operationMilliseconds), [&busy] {
-        const GRef<GObject> alive(static_cast<GObject*>(g_weak_ref_get(&busy)));
-        return alive == nullptr;
-    });
-    g_weak_ref_clear(&busy);
+    m_asked = true;
+    return connect();
 }
 
 DaemonPresence probeNetworkManager(int milliseconds)
@@ -88,14 +129,8 @@ DaemonPresence probeNetworkManager(int milliseconds)
     const auto bus = loop.systemBus(deadline);
     if (!bus)
         return DaemonPresence::absent;
-    const auto result = loop.call(deadline, [&bus](GCancellable* cancellable, GAsyncReadyCallback done,
-                                                   gpointer data) {
-        g_dbus_connection_call(bus.get(), NM_DBUS_SERVICE, NM_DBUS_PATH, "org.freedesktop.DBus.Properties",
-                               "Get", g_variant_new("(ss)", NM_DBUS_INTERFACE, "Version"), nullptr,
-                               G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, cancellable, done, data);
-    });
     GLibError error;
-    const GVariantRef answer(g_dbus_connection_call_finish(bus.get(), result.get(), error.out()));
+    const GVariantRef answer = askForVersion(loop, deadline, bus.get(), NM_DBUS_SERVICE, error.out());
     if (answer)
         return DaemonPresence::answers;
     const bool nobody = g_error_matches(error.get(), G_DBUS_ERROR, G_DBUS_ERROR_SERVICE_UNKNOWN) ||

@@ -13,13 +13,27 @@ namespace ardeo
 /// How NetworkManager was found the last time.
 enum class DaemonPresence { answers, absent, silent };
 
+/// What the daemon tells, and the loop on which it is told.
+struct DaemonView {
+    DaemonView() = default;
+    DaemonView(const DaemonView&) = delete;
+    DaemonView& operator=(const DaemonView&) = delete;
+    ~DaemonView();
+
+    GLibLoop loop;
+    GRef<NMClient> client;
+};
+
 /// One operation's view of NetworkManager: a consistent snapshot of what it knows, and the one deadline for
 /// all calls that the operation makes.
 class NetworkManagerSession
 {
 public:
     /// What it finds out about the daemon's presence is stored in presence.
-    NetworkManagerSession(SystemBus& bus, std::atomic<DaemonPresence>& presence);
+    /// A view that an earlier operation has left in kept saves making a new one; the session leaves its own
+    /// there.
+    NetworkManagerSession(SystemBus& bus, std::unique_ptr<DaemonView>& kept,
+                          std::atomic<DaemonPresence>& presence);
     NetworkManagerSession(const NetworkManagerSession&) = delete;
     NetworkManagerSession& operator=(const NetworkManagerSession&) = delete;
     ~NetworkManagerSession();
@@ -29,7 +43,7 @@ public:
     /// Takes a new snapshot, because time has passed; null as above.
     NMClient* reconnect();
 
-    GLibLoop& loop() { return m_loop; }
+    GLibLoop& loop() { return m_view->loop; }
     QDeadlineTimer deadline() const { return m_deadline; }
     /// Lets the operation take that much longer, in milliseconds: it had to wait for somebody else.
     void extendDeadline(qint64 milliseconds) { m_deadline += milliseconds; }
@@ -37,13 +51,14 @@ public:
     void removeDeadline() { m_deadline = QDeadlineTimer(QDeadlineTimer::Forever); }
 
 private:
-    void disconnect();
+    bool catchUp();
+    NMClient* connect();
 
     SystemBus& m_bus;
+    std::unique_ptr<DaemonView>& m_kept;
     std::atomic<DaemonPresence>& m_presence;
-    GLibLoop m_loop;
     QDeadlineTimer m_deadline;
-    GRef<NMClient> m_client;
+    std::unique_ptr<DaemonView> m_view;
     bool m_asked = false;
 };
 
