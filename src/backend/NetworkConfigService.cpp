@@ -344,8 +344,10 @@ int NetworkConfigService::announce()
 void NetworkConfigService::restUnlessAsked(int since)
 {
     std::unique_lock lock(m_asking);
-    if (!m_next.wait_for(lock, followUpTime, [&] { return m_asked != since; }))
-        m_system.rest();
+    if (m_next.wait_for(lock, followUpTime, [&] { return m_asked != since; }))
+        return;
+    lock.unlock(); // whoever asks must not wait for the release
+    m_system.rest();
 }
 
 QFuture<QList<AdapterInfo>> NetworkConfigService::listAdapters()

@@ -16,7 +16,7 @@ namespace ardeo
 /// The only part that touches the system's network configuration. Its operations run one after the other on a
 /// thread of its own, so that their blocking calls never hold up the caller; the futures finish there. Each
 /// operation opens what it needs of the system, and has released it before the next one begins: nothing is
-/// cached.
+/// cached. When no other one follows at once, the system may rest.
 class NetworkConfigService
 {
 public:

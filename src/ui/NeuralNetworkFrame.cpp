@@ -18,8 +18,8 @@
 // the coarse grid to begin with.
 //
 // Nodes are slow beside the blur, too. So the coarse planes are composed ten times a second or so, at moments
-// that are the same for everybody, and a frame is a mixture of the two around it. Of a frame only that part is
-// computed which shows, and its pixels only when they are put on the screen.
+// that are the same for everybody, and a frame is a mixture of the two around it. Of a frame only that part
+// is computed which shows, and its pixels only when they are put on the screen.
 
 // The work on whole planes is compiled twice: for every processor of the kind, and for those that take eight
 // samples at once. The latter matters for more than that. Qt's painting leaves the upper halves of the wide

@@ -114,6 +114,15 @@ private Q_SLOTS:
         check({}, link(true, 2.5, true), "inactive ? full");
     }
 
+    void systemRestsWhenNothingFollows()
+    {
+        FakeSystemConfiguration system;
+        NetworkConfigService service(system);
+        service.listAdapters();
+        service.currentConfig(u"Wi-Fi"_s).waitForFinished();
+        QTRY_COMPARE(system.rests.load(), 1);
+    }
+
     void configurationIsRead()
     {
         const auto check = [](const QVariant& ipv4, const QVariant& live, const QVariant& dns,

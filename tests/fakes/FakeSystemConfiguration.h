@@ -37,12 +37,14 @@ public:
     /// Step ("lock", "commit", "apply") and the status that it is refused with.
     QMap<QString, qint32> refusals;
     QStringList calls;
+    std::atomic<int> rests = 0;
     AuthorizationRef authorization;
     /// Every operation waits for it; a test that takes it all stalls them.
     QSemaphore gate{1000};
     /// Whether one gave up because the gate stayed closed: whoever was to open it was waiting itself.
     std::atomic<bool> gaveUp = false;
 
+    void rest() override { ++rests; }
     std::unique_ptr<Preferences> createPreferences(const QString& name) override
     {
         pass();

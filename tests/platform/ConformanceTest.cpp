@@ -2,6 +2,7 @@
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/simulated/SimulatedPlatform.h"
 
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -189,6 +190,26 @@ private Q_SLOTS:
         first.reset(); // gives its lock up
         QVERIFY(second->lock(false));
         QCOMPARE(refusal(second->commitChanges()), qint32(SystemStatus::stale));
+    }
+
+    void whatOthersDoIsSeenAtOnce()
+    {
+        if (!m_real)
+            return; // there the file is read each time
+        const auto others = [](const QStringList& change) {
+            return QProcess::execute(u"nmcli"_s, QStringList(u"connection"_s) + change) == 0;
+        };
+        const QString copy = u"Copy"_s;
+        for (int round = 0; round < 5; ++round) {
+            const QString address = u"10.66.0.%1"_s.arg(round + 1);
+            QVERIFY(others({u"modify"_s, m_unplugged, u"ipv4.method"_s, u"manual"_s, u"ipv4.addresses"_s,
+                            address + u"/24"_s}));
+            QCOMPARE(saved(m_unplugged, ipv4)[u"Addresses"_s], QVariant(QStringList(address)));
+            QVERIFY(others({u"clone"_s, m_unplugged, copy}));
+            QVERIFY(find(*m_system.createPreferences(name), copy));
+            QVERIFY(others({u"delete"_s, copy}));
+            QVERIFY(!find(*m_system.createPreferences(name), copy));
+        }
     }
 };
 

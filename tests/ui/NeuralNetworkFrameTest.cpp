@@ -60,7 +60,8 @@ private Q_SLOTS:
         QCOMPARE(drawn(m_renderer), image);
         NeuralNetworkRenderer fresh(220, 0.25);
         QCOMPARE(drawn(fresh), image);
-        // A pixel of the small picture is an average. In a tiny one the blur at the edges would count too much.
+        // A pixel of the small picture is an average. In a tiny one the blur at the edges would count too
+        // much.
         if (size.width() < 60)
             return;
         const QColor average =
