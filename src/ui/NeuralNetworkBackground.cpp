@@ -17,8 +17,8 @@ constexpr int tickMilliseconds = 33;
 /// Ticks after which also what lies above is painted anew. Until then the ground that shines through a card
 /// has changed by two to four steps of colour of 255 where it changes most.
 constexpr int coveredTicks = 16;
-/// Rows that are drawn at once: few enough to stay in the processor's cache until they are on the screen.
-constexpr int bandRows = 64;
+/// Pixels that are drawn at once: few enough to stay in the processor's cache until they are on the screen.
+constexpr int bandPixels = 48 * 1024;
 /// By how much the backdrop is smaller than the view.
 constexpr int backdropScale = 24;
 
@@ -146,14 +146,14 @@ void NeuralNetworkBackground::paintEvent(QPaintEvent* event)
     const double scale = devicePixelRatioF();
     const QRect all(QPoint(), (QSizeF(size()) * scale).toSize());
     NeuralNetworkRenderer& network = frame(event->region());
+    painter.scale(1 / scale, 1 / scale); // to device pixels, so that the bands meet exactly
     for (const QRect& part : event->region()) {
-        painter.resetTransform();
-        painter.setClipRect(part);
-        painter.scale(1 / scale, 1 / scale); // to device pixels, so that the bands meet exactly
         const QRect pixels =
             QRectF(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale).toAlignedRect() & all;
-        for (int top = pixels.top(); top <= pixels.bottom(); top += bandRows) {
-            const QRect band(pixels.left(), top, pixels.width(), qMin(bandRows, pixels.bottom() + 1 - top));
+        painter.setClipRect(pixels);
+        const int rows = qMax(1, bandPixels / qMax(1, pixels.width()));
+        for (int top = pixels.top(); top <= pixels.bottom(); top += rows) {
+            const QRect band(pixels.left(), top, pixels.width(), qMin(rows, pixels.bottom() + 1 - top));
             painter.drawImage(band.topLeft(),
                               network.picture(band, look::schemeOf(this), look::colours(this).window));
         }

@@ -183,10 +183,11 @@ inline float transmittance(float depth)
     return value * value;
 }
 
-/// One row of the picture: down by the four expanded rows, then to 8 bits.
+/// A part of a row of the picture, which begins at the pixel left: down by the four expanded rows, then to 8
+/// bits.
 template <bool withDots>
 [[gnu::always_inline]] inline void
-writeRow(std::uint32_t* __restrict out, int from, int to, const std::array<const Share*, 4>& links,
+writeRow(std::uint32_t* __restrict out, int left, int from, int to, const std::array<const Share*, 4>& links,
          const std::array<const Share*, 4>& dots, const std::array<Share, 4>& weights,
          const std::array<Channel, 3>& channels)
 {
@@ -206,7 +207,7 @@ writeRow(std::uint32_t* __restrict out, int from, int to, const std::array<const
         }
         const auto upper = static_cast<Share>(0xFF00 | red >> 8);
         const auto lower = static_cast<Share>((green & 0xFF00) | blue >> 8);
-        out[x] = static_cast<std::uint32_t>(upper) << 16 | lower;
+        out[x - left] = static_cast<std::uint32_t>(upper) << 16 | lower;
     }
 }
 
@@ -414,27 +415,29 @@ void NeuralNetworkRenderer::compose(QSizeF size, double time, qreal devicePixelR
     if (size != m_size || devicePixelRatio != m_scale)
         prepare(size, devicePixelRatio);
     choose(part);
+    bool changed = false;
     if (m_interval > 0) {
         const double moment = std::floor(time / m_interval);
         const double before = moment * m_interval;
         if (m_after.time == before)
             std::swap(m_before, m_after);
-        composeAt(m_before, before);
-        composeAt(m_after, (moment + 1) * m_interval);
+        changed = composeAt(m_before, before);
+        changed = composeAt(m_after, (moment + 1) * m_interval) || changed;
         const Share weight = shareOf(std::clamp((time - before) / m_interval, 0.0, 1.0));
         m_weights = {static_cast<Share>(~weight), weight};
     } else {
-        composeAt(m_before, time);
+        changed = composeAt(m_before, time);
         m_weights = {shareOf(1), 0};
     }
-    std::ranges::transform(m_before.dotBlocks, m_after.dotBlocks, m_dotBlocks.begin(), std::bit_or());
+    if (changed)
+        std::ranges::transform(m_before.dotBlocks, m_after.dotBlocks, m_dotBlocks.begin(), std::bit_or());
 }
 
-/// Composes what is asked for at that time, unless it is there already.
-void NeuralNetworkRenderer::composeAt(Composition& composition, double time)
+/// Composes what is asked for at that time; false if it is there already.
+bool NeuralNetworkRenderer::composeAt(Composition& composition, double time)
 {
     if (composition.time == time && (m_blurred - composition.region).isEmpty())
-        return;
+        return false;
     composition.time = time;
     composition.region = m_blurred;
     const std::vector<QPointF> positions = nodePositions(m_size, time, m_speed);
@@ -445,6 +448,7 @@ void NeuralNetworkRenderer::composeAt(Composition& composition, double time)
     drawDots(composition, positions);
     coarsen();
     blur(m_coarse, m_finalKernel, m_blurred, composition.links);
+    return true;
 }
 
 /// Finds out what the stages have to do for that part of the picture, given in points.
@@ -752,7 +756,7 @@ void NeuralNetworkRenderer::drawDotPixel(Composition& composition, int x, int y,
         Share* const row = composition.dots.row(top + static_cast<int>(j)) + left;
         const float share = wholeSample * weight * down[j];
         for (std::size_t i = 0; i < across.size(); ++i)
-            row[i] = static_cast<Share>(row[i] + static_cast<Share>(share * across[i] + 0.5F));
+            row[i] = static_cast<Share>(row[i] + static_cast<Share>(share * across[i]));
     }
     // Marked are the taps that read any of these samples.
     const int firstBlock = std::max(0, left - 3 + Plane::margin) / dotBlock;
@@ -887,6 +891,12 @@ ARDEO_WIDE void NeuralNetworkRenderer::expand(const Share* in, Share* __restrict
     }
 }
 
+std::size_t NeuralNetworkRenderer::blockAt(int pixel) const
+{
+    return static_cast<std::size_t>((m_columnTaps[static_cast<std::size_t>(pixel)].first + Plane::margin) /
+                                    dotBlock);
+}
+
 /// Brings a coarse row to the pixels of the picture's rows, from that pixel up to another one.
 ARDEO_WIDE void NeuralNetworkRenderer::expandRow(int row, int from, int to)
 {
@@ -902,7 +912,7 @@ ARDEO_WIDE void NeuralNetworkRenderer::expandRow(int row, int from, int to)
     };
     blend(&Composition::links, from, to);
     expand(line, expandedLinks(row), from, to);
-    auto block = static_cast<std::size_t>((tapAt(from) + Plane::margin) / dotBlock);
+    std::size_t block = blockAt(from);
     for (int begin = from; begin < to; ++block) {
         const int end = std::min(to, m_blockEnds[block]);
         const auto isMarked = [&](int above) { return dotMarks(row - above)[block] != 0; };
@@ -915,11 +925,11 @@ ARDEO_WIDE void NeuralNetworkRenderer::expandRow(int row, int from, int to)
 }
 
 /// Brings the coarse planes to device pixels, by cubic splines.
-ARDEO_WIDE const QImage& NeuralNetworkRenderer::picture(const QRect& pixels, ColorScheme scheme,
-                                                        QColor ground)
+ARDEO_WIDE QImage NeuralNetworkRenderer::picture(const QRect& pixels, ColorScheme scheme, QColor ground)
 {
-    if (m_picture.size() != pixels.size())
-        m_picture = QImage(pixels.size(), QImage::Format_RGB32);
+    const auto area = static_cast<std::size_t>(pixels.width()) * static_cast<std::size_t>(pixels.height());
+    if (m_picture.size() < area)
+        m_picture.resize(area);
     const std::array<Channel, 3> channels = channelsOf(scheme, ground);
     int expanded = m_rowTaps[static_cast<std::size_t>(pixels.top())].first;
     int taken = expanded - 1;
@@ -929,7 +939,8 @@ ARDEO_WIDE const QImage& NeuralNetworkRenderer::picture(const QRect& pixels, Col
             expandRow(expanded, pixels.left(), pixels.right() + 1);
         if (std::exchange(taken, first) != first) {
             m_runs.clear();
-            for (std::size_t block = 0; block < m_blockEnds.size(); ++block) {
+            std::size_t block = blockAt(pixels.left());
+            for (int begin = pixels.left(); begin <= pixels.right(); begin = m_blockEnds[block++]) {
                 const bool withDots = dotMarks(first)[block] != 0;
                 if (m_runs.empty() || m_runs.back().withDots != withDots)
                     m_runs.push_back({m_blockEnds[block], withDots});
@@ -942,19 +953,19 @@ ARDEO_WIDE const QImage& NeuralNetworkRenderer::picture(const QRect& pixels, Col
             links[static_cast<std::size_t>(i)] = expandedLinks(first + i);
             dots[static_cast<std::size_t>(i)] = expandedDots(first + i);
         }
-        auto* const out =
-            reinterpret_cast<std::uint32_t*>(m_picture.scanLine(y - pixels.top())) - pixels.left();
+        auto* const out = m_picture.data() + static_cast<std::ptrdiff_t>(y - pixels.top()) * pixels.width();
         int from = pixels.left();
         for (const auto& [end, withDots] : m_runs) {
             const int to = std::min(end, pixels.right() + 1);
             if (withDots)
-                writeRow<true>(out, from, to, links, dots, weights, channels);
+                writeRow<true>(out, pixels.left(), from, to, links, dots, weights, channels);
             else
-                writeRow<false>(out, from, to, links, dots, weights, channels);
+                writeRow<false>(out, pixels.left(), from, to, links, dots, weights, channels);
             from = std::max(from, to);
         }
     }
-    return m_picture;
+    return QImage(reinterpret_cast<const uchar*>(m_picture.data()), pixels.width(), pixels.height(),
+                  4 * pixels.width(), QImage::Format_RGB32);
 }
 
 QImage NeuralNetworkRenderer::reduced(QSize size, ColorScheme scheme, QColor ground)

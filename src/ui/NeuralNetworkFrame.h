@@ -46,7 +46,7 @@ public:
     void compose(QSizeF size, double time, qreal devicePixelRatio, const QRegion& part);
     /// The pixels of a rectangle of that part, given in device pixels. They stay as they are until the next
     /// call.
-    const QImage& picture(const QRect& pixels, ColorScheme scheme, QColor ground);
+    QImage picture(const QRect& pixels, ColorScheme scheme, QColor ground);
     /// All of the frame in a small size, each pixel the average of what it stands for.
     QImage reduced(QSize size, ColorScheme scheme, QColor ground);
 
@@ -148,7 +148,7 @@ private:
                          const Blocks& blocks, int blockSide, Combine combine);
     void prepare(QSizeF size, double scale);
     void choose(const QRegion& part);
-    void composeAt(Composition& composition, double time);
+    bool composeAt(Composition& composition, double time);
     void findLinks(const std::vector<QPointF>& positions);
     void drawGlows(const std::vector<QPointF>& positions);
     void drawLines();
@@ -162,6 +162,7 @@ private:
     template <int pixels>
     void expandWhole(const Share* in, Share* out, int from, int to) const;
     void expand(const Share* in, Share* out, int from, int to) const;
+    std::size_t blockAt(int pixel) const;
     void expandRow(int row, int from, int to);
     /// The last four expanded rows are kept, by the two lowest bits of their number.
     Share* expandedLinks(int row) { return m_expanded.data() + (row & 3) * m_expandedStride; }
@@ -214,7 +215,7 @@ private:
     std::array<Share, 2> m_weights{}; // of the two in this frame
     std::vector<std::uint8_t> m_dotBlocks;
     std::vector<Run> m_runs;
-    QImage m_picture;
+    std::vector<std::uint32_t> m_picture;
 };
 
 } // namespace ardeo

@@ -1,5 +1,7 @@
 #include "platform/linux/NetworkManagerSession.h"
 
+#include <QByteArray>
+
 #include <utility>
 
 /// The TLS library that comes with libnm asks this when it is loaded: whether to leave its initialisation to
@@ -81,9 +83,9 @@ bool NetworkManagerSession::catchUp()
 {
     NMClient* const client = m_view->client.get();
     GDBusConnection* const bus = nm_client_get_dbus_connection(client);
+    const QByteArray daemon(nm_client_get_dbus_name_owner(client));
     for (int answer = 0; answer < 2; ++answer) {
-        const char* const owner = nm_client_get_dbus_name_owner(client);
-        if (!owner || !askForVersion(m_view->loop, m_deadline, bus, owner, nullptr))
+        if (daemon.isEmpty() || !askForVersion(m_view->loop, m_deadline, bus, daemon.constData(), nullptr))
             return false;
     }
     return nm_client_get_nm_running(client) != FALSE;
