@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <array>
@@ -91,6 +92,8 @@ int main(int argc, char** argv)
     platform.filePanels = std::make_unique<DesktopFilePanels>();
     platform.workspace = std::make_unique<DesktopWorkspace>();
 
+    // Qt spreads all but the smallest fillings over this pool; waking its threads takes longer than they do.
+    QThreadPool::globalInstance()->setMaxThreadCount(1);
     const Appearance appearance;
     Ardeo_IPConfigApp app(platform);
     QObject::connect(&desktopApplication, &DesktopApplication::activated, &desktopApplication,

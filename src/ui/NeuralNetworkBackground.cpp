@@ -15,8 +15,8 @@ namespace
 
 constexpr int tickMilliseconds = 33;
 /// Ticks after which also what lies above is painted anew. Until then the ground that shines through a card
-/// has changed by two to four steps of colour of 255 where it changes most.
-constexpr int coveredTicks = 16;
+/// has changed by two to five steps of colour of 255 where it changes most.
+constexpr int coveredTicks = 18;
 /// Pixels that are drawn at once: few enough to stay in the processor's cache until they are on the screen.
 constexpr int bandPixels = 48 * 1024;
 /// By how much the backdrop is smaller than the view.

@@ -51,7 +51,7 @@ constexpr std::array<NodeParam, 35> nodes{{
 constexpr double horizontalReach = 0.46;
 constexpr double verticalReach = 0.47;
 /// In points; a blur's deviation is 2.5.
-constexpr double mixableWay = 1.5;
+constexpr double mixableWay = 1.6;
 constexpr double longestInterval = 1;
 constexpr double shortestInterval = 0.05;
 constexpr double linkOpacity = 0.4;
