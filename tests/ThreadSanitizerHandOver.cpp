@@ -1,8 +1,8 @@
 // Linked into the tests where they are built with the thread sanitizer. Qt and GLib are not built with it:
 // what they do among themselves is left out, and nothing would tell it that what a thread pool is given is
-// there before a thread takes it up, and that a future's exception is there before it is thrown. Those
-// functions take the place of Qt's own here, so that everything of this program stays in sight without a
-// suppression.
+// there before a thread takes it up, and that what an operation has done, or the exception it has thrown, is
+// there when its future has ended. Those functions take the place of Qt's own here, so that everything of
+// this program stays in sight without a suppression.
 
 #include <QFuture>
 #include <QThreadPool>
@@ -49,6 +49,15 @@ void QFutureInterfaceBase::reportException(std::exception_ptr exception)
         dlsym(RTLD_NEXT, "_ZN20QFutureInterfaceBase15reportExceptionENSt15__exception_ptr13exception_ptrE"));
     __tsan_release(&exceptionStore());
     report(this, std::move(exception));
+}
+
+void QFutureInterfaceBase::reportFinished()
+{
+    using Report = void (*)(QFutureInterfaceBase*);
+    static const auto report =
+        reinterpret_cast<Report>(dlsym(RTLD_NEXT, "_ZN20QFutureInterfaceBase14reportFinishedEv"));
+    __tsan_release(&exceptionStore());
+    report(this);
 }
 
 void QFutureInterfaceBase::waitForFinished()

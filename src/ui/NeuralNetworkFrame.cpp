@@ -476,7 +476,7 @@ void NeuralNetworkRenderer::choose(const QRegion& part)
     m_coarsened = grown(m_blurred, kernelReach);
     m_lineBlocks.cover(grown(m_coarsened, 2), plane);
     m_fineNeeded = grown(m_lineBlocks.region(), 1) & m_coarse.area(0);
-    m_glowing = grown(m_fineNeeded, 1);
+    m_glowing = grown(m_coarsened, 2);
     m_glowLineBlocks.cover(grown(m_glowing, kernelReach + 2), plane);
 }
 
