@@ -119,8 +119,10 @@ NeuralNetworkRenderer& NeuralNetworkBackground::frame(const QRegion& part)
 {
     if (!m_renderer)
         m_renderer.emplace(m_maxDist, m_speed);
-    if (!(part - m_composed).isEmpty()) {
-        m_renderer->compose(size(), m_time, devicePixelRatioF(), part);
+    // The window may have come to a screen of another scale.
+    if (!(part - m_composed).isEmpty() || m_composedScale != devicePixelRatioF()) {
+        m_composedScale = devicePixelRatioF();
+        m_renderer->compose(size(), m_time, m_composedScale, part);
         m_composed = part;
     }
     return *m_renderer;

@@ -54,6 +54,7 @@ private:
     std::function<QRegion()> m_covered = [] { return QRegion(); };
     std::optional<NeuralNetworkRenderer> m_renderer;
     QRegion m_composed;
+    double m_composedScale = 0;
     QImage m_backdrop;
     double m_time = 0;
     int m_timer = 0;
