@@ -5,6 +5,23 @@
 namespace ardeo
 {
 
+namespace
+{
+
+/// GLib before 2.76 keeps what has been freed in caches of its own, unless it is told not to before it sets
+/// itself up, which it does while it is loaded.
+[[gnu::no_sanitize("address", "thread", "undefined")]] void leaveFreedMemoryToMalloc()
+{
+    G_GNUC_BEGIN_IGNORE_DEPRECATIONS
+    g_slice_set_config(G_SLICE_CONFIG_ALWAYS_MALLOC, TRUE);
+    G_GNUC_END_IGNORE_DEPRECATIONS
+}
+
+/// Is called before the libraries set themselves up.
+[[gnu::section(".preinit_array"), gnu::used]] void (*const beforeLibraries)() = leaveFreedMemoryToMalloc;
+
+} // namespace
+
 GLibLoop::GLibLoop() : m_context(g_main_context_new()) {}
 
 GLibLoop::~GLibLoop()
