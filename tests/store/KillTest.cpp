@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <random>
+#include <sched.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -53,9 +54,13 @@ int main(int, char** arguments)
             for (NetworkPresetStore store(disk);;)
                 change(store, begun++);
         }
-        usleep(useconds_t(random() % 50'000));
-        ::kill(child, SIGKILL);
+        // So many changes in, it is killed somewhere in the next ones.
         int status = 0;
+        for (const auto whole = random() % 60; begun <= whole && waitpid(child, &status, WNOHANG) == 0;)
+            sched_yield();
+        for (auto turns = random() % 2'000; turns > 0; --turns)
+            sched_yield();
+        ::kill(child, SIGKILL);
         waitpid(child, &status, 0);
         NetworkPresetStore rehearsal(memory);
         QByteArray before = memory.values[key];
@@ -64,7 +69,8 @@ int main(int, char** arguments)
             change(rehearsal, number);
         }
         const QByteArray found = disk.data(key).value_or("[]");
-        if (!WIFSIGNALED(status) || !decodePresets(found) || (found != before && found != memory.values[key]))
+        if (WTERMSIG(status) != SIGKILL || !decodePresets(found) ||
+            (found != before && found != memory.values[key]))
             qFatal("kill %d, change %u: %s", kill, unsigned(begun), found.constData());
         changes += begun;
     }
