@@ -11,6 +11,7 @@
 #include "ui/TextLabel.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStackedLayout>
