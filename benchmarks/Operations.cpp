@@ -33,10 +33,7 @@ QString perform(NetworkConfigService& service, AuthorizationService& authorizati
         wanted.router = words.at(4);
     }
     try {
-        service
-            .writeConfiguration(words.at(1), wanted, authorization.authorize(),
-                                NetworkConfigService::DNSHandling::replace)
-            .waitForFinished();
+        service.writeConfiguration(words.at(1), wanted, authorization.authorize()).waitForFinished();
     } catch (const DescribedError& error) {
         return error.errorDescription();
     }

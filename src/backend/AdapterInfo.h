@@ -20,6 +20,8 @@ struct AdapterInfo {
     /// Whether the service holds at least one IPv4 address.
     bool isActive = false;
     bool isEnabled = false;
+    /// Whether it belongs to its user alone, who needs a lesser right to change it.
+    bool isPersonal = false;
     /// Megabits per second; known only while the link is up.
     std::optional<qint64> linkSpeedMbps{};
     /// Known only while the link is up.
@@ -34,8 +36,9 @@ inline size_t qHash(const AdapterInfo& adapter, size_t seed = 0)
     return qHashMulti(seed, adapter.serviceName, adapter.hardwareName, adapter.macAddress.has_value(),
                       adapter.macAddress.value_or(Text()), adapter.bsdName.has_value(),
                       adapter.bsdName.value_or(Text()), adapter.isActive, adapter.isEnabled,
-                      adapter.linkSpeedMbps.has_value(), adapter.linkSpeedMbps.value_or(0),
-                      adapter.fullDuplex.has_value(), adapter.fullDuplex.value_or(false));
+                      adapter.isPersonal, adapter.linkSpeedMbps.has_value(),
+                      adapter.linkSpeedMbps.value_or(0), adapter.fullDuplex.has_value(),
+                      adapter.fullDuplex.value_or(false));
 }
 
 } // namespace ardeo

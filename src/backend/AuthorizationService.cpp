@@ -12,20 +12,20 @@ AuthorizationService::~AuthorizationService()
     invalidate();
 }
 
-AuthorizationRef AuthorizationService::authorize()
+AuthorizationRef AuthorizationService::authorize(const QString& right)
 {
-    if (authRef)
-        return *authRef;
-    const auto created = m_authorization.create();
-    if (!created)
+    if (!authRef)
+        authRef = m_authorization.create();
+    if (!authRef)
         throw AuthError::createFailed();
-    if (!m_authorization.copyRights(*created, QStringLiteral("system.preferences.network"),
-                                    interactionAllowed | extendRights | preAuthorize)) {
-        m_authorization.free(*created, authorizationDefaults);
+    if (m_rights.contains(right))
+        return *authRef;
+    if (!m_authorization.copyRights(*authRef, right, interactionAllowed | extendRights | preAuthorize)) {
+        invalidate();
         throw AuthError::denied();
     }
-    authRef = created;
-    return *created;
+    m_rights.append(right);
+    return *authRef;
 }
 
 void AuthorizationService::invalidate()
@@ -33,6 +33,7 @@ void AuthorizationService::invalidate()
     if (authRef)
         m_authorization.free(*authRef, authorizationDefaults);
     authRef.reset();
+    m_rights.clear();
 }
 
 } // namespace ardeo

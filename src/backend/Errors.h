@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backend/Text.h"
+#include "platform/SystemConfiguration.h"
 
 #include <exception>
 
@@ -25,6 +26,15 @@ private:
     QString m_description;
     QByteArray m_utf8;
 };
+
+/// What the user is told while an action waits for another program.
+inline QString waitingDescription(const LockHolder& holder)
+{
+    const QString sentence =
+        QStringLiteral("Waiting for another program that is changing the network settings.");
+    return holder.processID ? sentence + QStringLiteral(" It is process %1.").arg(*holder.processID)
+                            : sentence;
+}
 
 /// Why a change of a service's configuration failed. The codes are the system configuration's own.
 class ConfigError final : public DescribedError

@@ -146,6 +146,7 @@ std::optional<AdapterInfo> makeAdapterInfo(const NetworkService& service, Dynami
         adapter.bsdName = asText(interface->bsdName());
     }
     adapter.isEnabled = service.isEnabled();
+    adapter.isPersonal = service.isPersonal();
     if (const auto live = serviceState(state, service.serviceID()))
         adapter.isActive = !textsIn(*live, addressesKey).isEmpty();
     const auto link = interfaceState(state, adapter.bsdName, QStringLiteral("/Link"));
@@ -262,6 +263,57 @@ Dictionary dnsDictionary(const NetworkAdapterInfo& configuration)
     return dictionary;
 }
 
+/// Of the wanted settings those under the keys, as changes: a key that they lack is to go.
+Dictionary picked(const Dictionary& wanted, std::initializer_list<QString> keys, Dictionary others = {})
+{
+    for (const QString& key : keys)
+        others.insert(key, wanted.value(key));
+    return others;
+}
+
+Dictionary ipv4Changes(const NetworkAdapterInfo& configuration, Settings named)
+{
+    const Dictionary wanted = ipv4Dictionary(configuration);
+    Dictionary changes;
+    if (named.testFlag(Setting::ipv4Mode))
+        changes = picked(wanted, {configMethodKey}, changes);
+    if (named.testFlag(Setting::address))
+        changes = picked(wanted, {addressesKey, subnetMasksKey}, changes);
+    if (named.testFlag(Setting::router))
+        changes = picked(wanted, {routerKey}, changes);
+    return changes;
+}
+
+Dictionary dnsChanges(const NetworkAdapterInfo& configuration, Settings named)
+{
+    const Dictionary wanted = dnsDictionary(configuration);
+    Dictionary changes;
+    if (named.testFlag(Setting::dnsServers))
+        changes = picked(wanted, {serverAddressesKey}, changes);
+    if (named.testFlag(Setting::searchDomains))
+        changes = picked(wanted, {searchDomainsKey}, changes);
+    return changes;
+}
+
+void writeTo(const NetworkService& service, const NetworkAdapterInfo& configuration,
+             std::optional<Settings> named)
+{
+    const auto ipv4 = service.protocol(ipv4Type);
+    if (!ipv4)
+        throw ConfigError::protocolUnavailable(ipv4Type);
+    if (named)
+        ipv4->changeConfiguration(ipv4Changes(configuration, *named));
+    else
+        ipv4->setConfiguration(ipv4Dictionary(configuration));
+    const auto dns = service.protocol(dnsType);
+    if (!dns)
+        return;
+    if (!named)
+        dns->setConfiguration(dnsDictionary(configuration));
+    else if (const Dictionary changes = dnsChanges(configuration, *named); !changes.isEmpty())
+        dns->changeConfiguration(changes);
+}
+
 /// Unlocks the preferences on every way out of a transaction.
 class HeldLock
 {
@@ -363,18 +415,12 @@ QFuture<NetworkAdapterInfo> NetworkConfigService::currentConfig(const Text& serv
 
 QFuture<void> NetworkConfigService::writeConfiguration(const Text& serviceName,
                                                        const NetworkAdapterInfo& configuration,
-                                                       AuthorizationRef authorization, DNSHandling dns)
+                                                       AuthorizationRef authorization,
+                                                       std::optional<Settings> named)
 {
-    return run([this, serviceName, configuration, authorization, dns](Opened&) {
-        changeService(m_system, serviceName, authorization, [&](const NetworkService& service) {
-            const auto ipv4Protocol = service.protocol(ipv4Type);
-            if (!ipv4Protocol)
-                throw ConfigError::protocolUnavailable(ipv4Type);
-            ipv4Protocol->setConfiguration(ipv4Dictionary(configuration));
-            const auto dnsProtocol = dns == DNSHandling::replace ? service.protocol(dnsType) : nullptr;
-            if (dnsProtocol)
-                dnsProtocol->setConfiguration(dnsDictionary(configuration));
-        });
+    return run([this, serviceName, configuration, authorization, named](Opened&) {
+        changeService(m_system, serviceName, authorization,
+                      [&](const NetworkService& service) { writeTo(service, configuration, named); });
     });
 }
 

@@ -13,6 +13,17 @@
 namespace ardeo
 {
 
+/// A part of a service's configuration that can be written alone.
+enum class Setting : quint8 {
+    ipv4Mode = 1,
+    /// The address with its subnet mask.
+    address = 2,
+    router = 4,
+    dnsServers = 8,
+    searchDomains = 16,
+};
+Q_DECLARE_FLAGS(Settings, Setting)
+
 /// The only part that touches the system's network configuration. Its operations run one after the other on a
 /// thread of its own, so that their blocking calls never hold up the caller; the futures finish there. Each
 /// operation opens what it needs of the system, and has released it before the next one begins: nothing is
@@ -20,9 +31,6 @@ namespace ardeo
 class NetworkConfigService
 {
 public:
-    /// What a write does with the service's DNS configuration.
-    enum class DNSHandling { replace, keep };
-
     explicit NetworkConfigService(SystemConfiguration& system);
     NetworkConfigService(const NetworkConfigService&) = delete;
     NetworkConfigService& operator=(const NetworkConfigService&) = delete;
@@ -33,12 +41,15 @@ public:
     QFuture<QList<AdapterInfo>> listAdapters();
     /// The service's configuration with its live state. What cannot be read is as in the empty record.
     QFuture<NetworkAdapterInfo> currentConfig(const Text& serviceName);
-    /// Saves the record as the service's configuration and makes the system use it at once. The record's
-    /// texts are handed on as they are. Fails with ConfigError.
+    /// Saves the record as the service's configuration, or of it what is named, and makes the system use it
+    /// at once. The record's texts are handed on as they are. Fails with ConfigError.
     QFuture<void> writeConfiguration(const Text& serviceName, const NetworkAdapterInfo& configuration,
-                                     AuthorizationRef authorization, DNSHandling dns = DNSHandling::replace);
+                                     AuthorizationRef authorization, std::optional<Settings> named = {});
     /// Switches the service on or off, also when it is so already. Fails with ConfigError.
     QFuture<void> setServiceEnabled(bool enabled, const Text& serviceName, AuthorizationRef authorization);
+    /// Has the observer told whom an operation waits for, and with none that it waits no longer; on the
+    /// service's thread.
+    void observeWaiting(WaitingObserver observer) { m_system.observeWaiting(std::move(observer)); }
 
 private:
     template <typename Operation>

@@ -90,11 +90,11 @@ QString takeSettings(Arguments& arguments, const QCommandLineParser& parser)
             arguments.dns = dns->split(u',');
     }
 
-    const bool addressed = arguments.address || arguments.mask || arguments.router;
-    if (arguments.profile &&
-        (arguments.dhcp || addressed || arguments.search || parser.isSet(QStringLiteral("dns"))))
+    const bool addressed = arguments.address || arguments.mask;
+    if (arguments.profile && (arguments.dhcp || addressed || arguments.router || arguments.search ||
+                              parser.isSet(QStringLiteral("dns"))))
         return QStringLiteral("--profile brings all settings along and takes no others beside it.");
-    if (arguments.dhcp && addressed)
+    if (arguments.dhcp && (addressed || arguments.router))
         return QStringLiteral("--dhcp takes no --address, --mask or --router.");
     if (addressed && !(arguments.address && arguments.mask))
         return QStringLiteral("A manual address takes both --address and --mask.");
@@ -174,14 +174,14 @@ Commands:
 
 Settings:
   --dhcp                        take the address from the network
-  --address=A --mask=M          a manual address with its dotted mask ...
-  --router=R                    ... and its gateway; --router= for none
+  --address=A --mask=M          a manual address with its dotted mask
+  --router=R                    the gateway of a manual address; --router= for none
   --dns=auto                    take the DNS servers from the network
   --dns=A[,B]                   DNS servers set by hand
   --search="D D"                search domains, with DNS servers set by hand
 
 Systems:
-  --system=auto                 NetworkManager where it is running (the default)
+  --system=auto                 NetworkManager, with advice where it is not running (the default)
   --system=networkmanager       this computer
   --system=simulated            a simulated machine, for trying things out
   --state=FILE                  the file that the simulated machine lives in

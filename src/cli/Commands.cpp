@@ -23,12 +23,12 @@ struct Failure {
 
 [[noreturn]] void fail(const QString& error)
 {
-    throw Failure{{.status = 1, .output = {}, .error = error, .remains = {}}};
+    throw Failure{{.status = 1, .output = {}, .error = error, .changed = false, .remains = {}}};
 }
 
 [[noreturn]] void failUsage(const QString& error)
 {
-    throw Failure{{.status = 2, .output = {}, .error = error, .remains = {}}};
+    throw Failure{{.status = 2, .output = {}, .error = error, .changed = false, .remains = {}}};
 }
 
 /// One command on its way through the model.
@@ -62,9 +62,7 @@ public:
         select();
         if (preset)
             m_model->loadPreset(*preset);
-        else
-            fillForm();
-        return act(m_model->applyConfiguration());
+        return act(m_model->applyConfiguration(preset ? std::nullopt : std::optional(takeSettings())));
     }
 
     QByteArray renew()
@@ -81,14 +79,14 @@ public:
 
     QByteArray profiles()
     {
-        throwAbsence();
+        throwIfUnreadable();
         const auto& presets = m_model->presetStore.presets();
         return m_arguments.json ? encoded() + '\n' : presetsAsTable(presets, m_colour).toUtf8();
     }
 
     QByteArray exportProfiles()
     {
-        throwAbsence();
+        throwIfUnreadable();
         const QByteArray bytes = encoded();
         QFile file(m_arguments.file);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
@@ -103,11 +101,10 @@ private:
             fail(*trouble);
     }
 
-    /// For commands that do not ask the system for anything else.
-    void throwAbsence() const
+    void throwIfUnreadable() const
     {
-        if (const auto trouble = m_platform.probe())
-            fail(*trouble);
+        if (m_model->presetStore.isUnreadable())
+            fail(QStringLiteral("The saved profiles cannot be read."));
     }
 
     void listServices()
@@ -133,6 +130,7 @@ private:
     {
         if (!m_arguments.profile)
             return std::nullopt;
+        throwIfUnreadable();
         const auto& presets = m_model->presetStore.presets();
         const Text name(*m_arguments.profile);
         const auto count = std::ranges::count(presets, name, &NetworkPreset::name);
@@ -143,30 +141,53 @@ private:
         return *std::ranges::find(presets, name, &NetworkPreset::name);
     }
 
-    /// Takes what the command line names over the present values that the form holds.
-    void fillForm()
+    /// Takes what the command line names into the form, and returns what that is.
+    Settings takeSettings()
     {
-        if (m_arguments.dhcp)
-            m_model->ipv4Mode = IPv4Mode::dhcp;
-        if (m_arguments.address) {
-            m_model->ipv4Mode = IPv4Mode::manual;
-            m_model->ipAddress = *m_arguments.address;
-            m_model->subnetMask = m_arguments.mask.value_or(QString());
-            if (m_arguments.router)
-                m_model->router = *m_arguments.router;
-        }
-        if (m_arguments.automaticDNS)
+        Settings named = takeAddress();
+        if (m_arguments.automaticDNS) {
             m_model->dnsMode = DNSMode::automatic;
+            named |= Settings(Setting::dnsServers) | Setting::searchDomains;
+        }
         if (m_arguments.dns) {
             m_model->dnsMode = DNSMode::manual;
             m_model->primaryDNS = m_arguments.dns->value(0);
             m_model->alternateDNS = m_arguments.dns->value(1);
+            named |= Setting::dnsServers;
         }
         if (m_arguments.search) {
             if (m_model->dnsMode.value() == DNSMode::automatic && !m_arguments.search->trimmed().isEmpty())
                 failUsage(QStringLiteral("--search needs --dns: automatic DNS keeps no search domains."));
             m_model->searchDomains = *m_arguments.search;
+            named |= Setting::searchDomains;
         }
+        return named;
+    }
+
+    Settings takeAddress()
+    {
+        const bool wasManual = m_model->ipv4Mode.value() == IPv4Mode::manual;
+        Settings named;
+        if (m_arguments.dhcp) {
+            m_model->ipv4Mode = IPv4Mode::dhcp;
+            named |= Setting::ipv4Mode;
+        }
+        if (m_arguments.address) {
+            m_model->ipv4Mode = IPv4Mode::manual;
+            m_model->ipAddress = *m_arguments.address;
+            m_model->subnetMask = m_arguments.mask.value_or(QString());
+            // Beside a manual address the gateway that the network gave is kept as one of the service's own.
+            named |= Settings(Setting::ipv4Mode) | Setting::address;
+            named.setFlag(Setting::router, !wasManual);
+        }
+        if (m_arguments.router) {
+            if (m_model->ipv4Mode.value() == IPv4Mode::dhcp)
+                failUsage(
+                    QStringLiteral("--router needs --address and --mask: with DHCP the network says it."));
+            m_model->router = *m_arguments.router;
+            named |= Setting::router;
+        }
+        return named;
     }
 
     QByteArray act(QCoro::Task<> action)
@@ -200,6 +221,12 @@ private:
     std::shared_ptr<MainViewModel> m_model;
 };
 
+bool isChange(Command command)
+{
+    return command == Command::apply || command == Command::renew || command == Command::enable ||
+           command == Command::disable;
+}
+
 QByteArray outputOf(const Arguments& arguments, Run run)
 {
     switch (arguments.command) {
@@ -228,12 +255,18 @@ QByteArray outputOf(const Arguments& arguments, Run run)
 
 } // namespace
 
-Outcome runCommand(const Arguments& arguments, Platform& platform, bool colour)
+Outcome runCommand(const Arguments& arguments, Platform& platform, bool colour,
+                   const std::function<void(const QString&)>& tell)
 {
     const auto model = MainViewModel::create(platform);
+    const auto waiting = model->waitsFor.subscribe([&] {
+        if (const auto holder = model->waitsFor.value())
+            tell(waitingDescription(*holder));
+    });
     Outcome outcome;
     try {
         outcome.output = outputOf(arguments, Run(arguments, platform, colour, model));
+        outcome.changed = isChange(arguments.command);
     } catch (const Failure& failure) {
         outcome = failure.outcome;
     }

@@ -12,12 +12,16 @@ struct Outcome {
     QByteArray output;
     /// One line for standard error, without the line break.
     QString error;
+    /// Whether something was changed, so that the command has succeeded even if nobody can read its output.
+    bool changed = false;
     /// What the command has worked with. To clear it away can take long, which a program that ends anyway
     /// need not wait for.
     std::shared_ptr<void> remains;
 };
 
 /// Runs a command on the platform and returns when it has ended.
-Outcome runCommand(const Arguments& arguments, Platform& platform, bool colour);
+/// Notes on the way are given to tell, as one line each.
+Outcome runCommand(const Arguments& arguments, Platform& platform, bool colour,
+                   const std::function<void(const QString&)>& tell);
 
 } // namespace ardeo

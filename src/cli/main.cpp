@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <unistd.h>
@@ -19,37 +21,46 @@ QString windowProgram()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/ardeo-ip-config");
 }
 
+void printError(const QString& line)
+{
+    std::fprintf(stderr, "%s\n", line.toUtf8().constData());
+}
+
 /// Leaves the platform that the command ran on in platform.
 Outcome outcomeOf(const QStringList& commandLine, bool colour, std::optional<Platform>& platform)
 {
     const auto parsed = parseArguments(commandLine);
     if (const auto* wrong = std::get_if<UsageError>(&parsed))
-        return {.status = 2, .output = {}, .error = wrong->message, .remains = {}};
+        return {.status = 2, .output = {}, .error = wrong->message, .changed = false, .remains = {}};
     const auto& arguments = std::get<Arguments>(parsed);
     if (arguments.command == Arguments::Command::help)
-        return {.status = 0, .output = helpText().toUtf8(), .error = {}, .remains = {}};
+        return {.status = 0, .output = helpText().toUtf8(), .error = {}, .changed = false, .remains = {}};
     platform = platformFor(arguments.system, arguments.stateFile, windowProgram());
     if (arguments.command == Arguments::Command::version) {
         const QString text =
             QStringLiteral("ardeoctl %1 on %2\n").arg(QStringLiteral(ARDEO_VERSION), platform->description);
-        return {.status = 0, .output = text.toUtf8(), .error = {}, .remains = {}};
+        return {.status = 0, .output = text.toUtf8(), .error = {}, .changed = false, .remains = {}};
     }
-    return runCommand(arguments, *platform, colour);
+    return runCommand(arguments, *platform, colour, printError);
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    std::signal(SIGPIPE, SIG_IGN); // a reader that goes away is told of like a full disk
     const QCoreApplication application(argc, argv);
     const bool colour = isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR");
     std::optional<Platform> platform;
     const Outcome outcome = outcomeOf(QCoreApplication::arguments(), colour, platform);
     if (!outcome.error.isEmpty())
-        std::fprintf(stderr, "%s\n", outcome.error.toUtf8().constData());
-    std::fwrite(outcome.output.constData(), 1, static_cast<size_t>(outcome.output.size()), stdout);
-    const bool written = std::fflush(stdout) == 0;
+        printError(outcome.error);
+    const auto size = static_cast<size_t>(outcome.output.size());
+    const bool written =
+        std::fwrite(outcome.output.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    if (!written)
+        printError(QStringLiteral("Cannot write the output: %1.").arg(qt_error_string(errno)));
     // The model has a look at the network scheduled for three seconds after a change, and clears away what it
     // has read; nobody waits for either here.
-    std::_Exit(written ? outcome.status : 1);
+    std::_Exit(written || outcome.changed ? outcome.status : 1);
 }

@@ -2,6 +2,7 @@
 
 #include "backend/Errors.h"
 
+#include <QCoreApplication>
 #include <QCoroFuture>
 #include <QFileInfo>
 
@@ -18,6 +19,7 @@ using namespace std::chrono_literals;
 constexpr auto applyDelay = 1s;
 constexpr auto followUpDelay = 3s;
 constexpr auto enableDelay = 500ms;
+constexpr auto waitingDelay = 500ms;
 
 /// The domains in a text that separates them by blanks, of any kind that does not end a line.
 QList<Text> splitDomains(const QString& text)
@@ -44,7 +46,15 @@ QString joinDomains(const QList<Text>& domains)
 
 std::shared_ptr<MainViewModel> MainViewModel::create(Platform& platform)
 {
-    return std::make_shared<MainViewModel>(Key(), platform);
+    auto model = std::make_shared<MainViewModel>(Key(), platform);
+    model->configService.observeWaiting(
+        [weak = std::weak_ptr(model)](const std::optional<LockHolder>& holder) {
+            QMetaObject::invokeMethod(QCoreApplication::instance(), [weak, holder] {
+                if (const auto alive = weak.lock())
+                    alive->noteWaiting(holder);
+            });
+        });
+    return model;
 }
 
 MainViewModel::MainViewModel(Key, Platform& platform)
@@ -145,21 +155,7 @@ void MainViewModel::revertForm()
     applySuccess = false;
 }
 
-void MainViewModel::beginAction()
-{
-    isApplying = true;
-    applyError = std::nullopt;
-    applySuccess = false;
-}
-
-void MainViewModel::failAction(const QString& description)
-{
-    applyError = Text(description);
-    authService.invalidate();
-    isApplying = false;
-}
-
-QCoro::Task<> MainViewModel::applyConfiguration()
+QCoro::Task<> MainViewModel::applyConfiguration(std::optional<Settings> named)
 {
     return write({.ipv4Mode = ipv4Mode.value(),
                   .ipAddress = ipAddress.value(),
@@ -171,50 +167,65 @@ QCoro::Task<> MainViewModel::applyConfiguration()
                   .searchDomains = splitDomains(searchDomains.value()),
                   .dhcpServer = {},
                   .computerName = {}},
-                 DNSHandling::replace);
+                 named);
 }
 
 QCoro::Task<> MainViewModel::renewDHCPLease()
 {
-    const NetworkAdapterInfo live = currentConfig.value();
-    return write({.ipv4Mode = IPv4Mode::dhcp,
-                  .ipAddress = {},
-                  .subnetMask = {},
-                  .router = {},
-                  .dnsMode = live.dnsMode,
-                  .primaryDNS = live.primaryDNS,
-                  .alternateDNS = live.alternateDNS,
-                  .searchDomains = live.searchDomains,
-                  .dhcpServer = {},
-                  .computerName = {}},
-                 DNSHandling::keep);
+    NetworkAdapterInfo configuration;
+    configuration.ipv4Mode = IPv4Mode::dhcp;
+    return write(configuration, Setting::ipv4Mode);
 }
 
-QCoro::Task<> MainViewModel::write(NetworkAdapterInfo configuration, DNSHandling dns)
+QCoro::Task<> MainViewModel::write(NetworkAdapterInfo configuration, std::optional<Settings> named)
 {
     const auto self = shared_from_this();
-    const std::optional<AdapterInfo> adapter = selectedAdapter.value();
-    if (!adapter)
-        co_return;
-    beginAction();
-    std::optional<QString> failure;
-    try {
-        const AuthorizationRef authorization = authService.authorize();
-        co_await configService.writeConfiguration(adapter->serviceName, configuration, authorization, dns);
-    } catch (const DescribedError& error) {
-        failure = error.errorDescription();
-    }
-    if (failure) {
-        failAction(*failure);
-    } else {
-        co_await m_platform.clock->sleep(applyDelay);
-        co_await refreshAdapters();
+    const Change change = [this, configuration, named](const Text& serviceName,
+                                                       AuthorizationRef authorization) {
+        return configService.writeConfiguration(serviceName, configuration, authorization, named);
+    };
+    if (co_await carryOut(change, applyDelay)) {
         applySuccess = true;
         isApplying = false;
     }
     // After a failure it is set only if another action has succeeded in between.
     if (applySuccess.value())
         scheduleFollowUpRefresh();
+}
+
+QCoro::Task<> MainViewModel::setAdapterEnabled(bool enabled)
+{
+    const auto self = shared_from_this();
+    const Change change = [this, enabled](const Text& serviceName, AuthorizationRef authorization) {
+        return configService.setServiceEnabled(enabled, serviceName, authorization);
+    };
+    if (co_await carryOut(change, enableDelay))
+        isApplying = false;
+}
+
+/// Obtains the right, makes the change, and refreshes when the network has had time to settle. False when
+/// that failed, which applyError says, and where no service is selected.
+QCoro::Task<bool> MainViewModel::carryOut(Change change, std::chrono::milliseconds settlingTime)
+{
+    const auto self = shared_from_this();
+    const std::optional<AdapterInfo> adapter = selectedAdapter.value();
+    if (!adapter)
+        co_return false;
+    isApplying = true;
+    applyError = std::nullopt;
+    applySuccess = false;
+    try {
+        const QLatin1String right(adapter->isPersonal ? personalNetworkRight : systemNetworkRight);
+        co_await change(adapter->serviceName, authService.authorize(right));
+    } catch (const DescribedError& error) {
+        applyError = Text(error.errorDescription());
+        authService.invalidate();
+        isApplying = false;
+        co_return false;
+    }
+    co_await m_platform.clock->sleep(settlingTime);
+    co_await refreshAdapters();
+    co_return true;
 }
 
 QCoro::Task<> MainViewModel::scheduleFollowUpRefresh()
@@ -224,27 +235,14 @@ QCoro::Task<> MainViewModel::scheduleFollowUpRefresh()
     co_await refreshAdapters();
 }
 
-QCoro::Task<> MainViewModel::setAdapterEnabled(bool enabled)
+/// Most changes are made in less time than anybody needs to read who makes them.
+QCoro::Task<> MainViewModel::noteWaiting(std::optional<LockHolder> holder)
 {
     const auto self = shared_from_this();
-    const std::optional<AdapterInfo> adapter = selectedAdapter.value();
-    if (!adapter)
-        co_return;
-    beginAction();
-    std::optional<QString> failure;
-    try {
-        const AuthorizationRef authorization = authService.authorize();
-        co_await configService.setServiceEnabled(enabled, adapter->serviceName, authorization);
-    } catch (const DescribedError& error) {
-        failure = error.errorDescription();
-    }
-    if (failure) {
-        failAction(*failure);
-        co_return;
-    }
-    co_await m_platform.clock->sleep(enableDelay);
-    co_await refreshAdapters();
-    isApplying = false;
+    m_lockHolder = holder;
+    if (holder)
+        co_await m_platform.clock->sleep(waitingDelay);
+    waitsFor = m_lockHolder;
 }
 
 void MainViewModel::savePreset(const Text& name)
@@ -273,6 +271,8 @@ bool MainViewModel::exportPresets() const
         QStringLiteral("Ardeo IP Config.profiles"), QStringLiteral("Export Ardeo IP Config profiles"));
     if (!place)
         return true;
+    if (presetStore.isUnreadable())
+        return false;
     const auto bytes = encodePresets(presetStore.presets());
     QFile file(*place);
     return bytes && file.open(QIODevice::WriteOnly) && file.write(*bytes) == bytes->size() && file.flush();

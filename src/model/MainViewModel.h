@@ -51,6 +51,8 @@ public:
     /// The last failed action's sentence for the user.
     Observed<std::optional<Text>> applyError;
     Observed<bool> applySuccess{false};
+    /// The program that keeps the running action waiting, once it has done so for half a second.
+    Observed<std::optional<LockHolder>> waitsFor;
     Observed<bool> isLoginItem;
 
     /// Whether the form differs from what was last read; the search domains are not compared.
@@ -71,9 +73,9 @@ public:
     /// Fills the form with what was last read.
     void revertForm();
 
-    /// Writes the form to the selected service, reads it again after a second, and once more three seconds
-    /// later.
-    QCoro::Task<> applyConfiguration();
+    /// Writes the form, or of it what is named, to the selected service, reads it again after a second, and
+    /// once more three seconds later.
+    QCoro::Task<> applyConfiguration(std::optional<Settings> named = {});
     /// Puts the selected service on DHCP, which takes a new lease; its DNS configuration and the form's edits
     /// have no part in it. Reads it again as after an apply.
     QCoro::Task<> renewDHCPLease();
@@ -82,7 +84,8 @@ public:
 
     /// Saves the form as a new profile of the selected service; does nothing where none is selected.
     void savePreset(const Text& name);
-    /// Writes all profiles to a file that the user chooses; false when that fails. Cancelling is no failure.
+    /// Writes all profiles to a file that the user chooses; false when that fails, or when those that were
+    /// stored could not be read, so that the file would lack them. Cancelling is no failure.
     bool exportPresets() const;
     /// Merges the profiles of a file that the user chooses into the list, by their ids.
     void importPresets();
@@ -98,14 +101,17 @@ public:
     NetworkPresetStore presetStore;
 
 private:
-    using DNSHandling = NetworkConfigService::DNSHandling;
+    /// Starts a change of the service with the consent.
+    using Change = std::function<QFuture<void>(const Text& serviceName, AuthorizationRef authorization)>;
 
     template <typename Settings>
     void fillForm(const Settings& settings, const Text& domains);
-    QCoro::Task<> write(NetworkAdapterInfo configuration, DNSHandling dns);
-    void beginAction();
-    void failAction(const QString& description);
+    QCoro::Task<> write(NetworkAdapterInfo configuration, std::optional<Settings> named);
+    QCoro::Task<bool> carryOut(Change change, std::chrono::milliseconds settlingTime);
     QCoro::Task<> scheduleFollowUpRefresh();
+    QCoro::Task<> noteWaiting(std::optional<LockHolder> holder);
+
+    std::optional<LockHolder> m_lockHolder;
 };
 
 } // namespace ardeo

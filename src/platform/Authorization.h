@@ -5,6 +5,10 @@
 namespace ardeo
 {
 
+/// The right to change the services of everybody, and the one to change those that are the user's alone.
+inline constexpr auto systemNetworkRight = "system.preferences.network";
+inline constexpr auto personalNetworkRight = "user.preferences.network";
+
 /// How a right is asked for; flags to be combined.
 enum AuthorizationFlags : quint32 {
     authorizationDefaults = 0,

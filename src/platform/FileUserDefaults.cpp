@@ -2,7 +2,6 @@
 
 #include "platform/FileReplacement.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace ardeo
@@ -17,6 +16,11 @@ std::optional<QByteArray> FileUserDefaults::data(const QString& key) const
         return std::nullopt;
     QByteArray data = file.readAll();
     return file.error() == QFileDevice::NoError ? std::optional(data) : std::nullopt;
+}
+
+bool FileUserDefaults::isUnreadable(const QString& key) const
+{
+    return QFile::exists(m_folder.filePath(key)) && !data(key);
 }
 
 void FileUserDefaults::set(const QByteArray& data, const QString& key)
@@ -37,10 +41,9 @@ std::optional<QString> FileUserDefaults::store(const QByteArray& data, const QSt
     }
     // What is there and could not be read, for its rights or the disk's health, is worth more than its
     // successor, which was made without knowing it.
-    QFile stored(m_folder.filePath(key));
-    if (stored.exists() && !this->data(key))
+    if (isUnreadable(key))
         return QStringLiteral("those stored before cannot be read");
-    return replaceFile(stored.fileName(), data);
+    return replaceFile(m_folder.filePath(key), data);
 }
 
 } // namespace ardeo

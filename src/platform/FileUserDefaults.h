@@ -13,6 +13,7 @@ class FileUserDefaults final : public UserDefaults
 public:
     explicit FileUserDefaults(const QDir& folder);
     std::optional<QByteArray> data(const QString& key) const override;
+    bool isUnreadable(const QString& key) const override;
     void set(const QByteArray& data, const QString& key) override;
 
 private:

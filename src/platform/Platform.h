@@ -29,9 +29,6 @@ struct Platform {
     QString description;
     /// Why the system could not be reached the last time it was asked, as a sentence; none when it answered.
     std::function<std::optional<QString>()> trouble = [] { return std::nullopt; };
-    /// The same after asking the system for a sign of life, for which it may wait as long as an operation
-    /// does.
-    std::function<std::optional<QString>()> probe = [] { return std::nullopt; };
 };
 
 /// What the program is called wherever the system wants a unique name for it.

@@ -3,8 +3,10 @@
 #include <QString>
 #include <QVariant>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace ardeo
@@ -44,8 +46,13 @@ public:
     virtual ~NetworkProtocol() = default;
     /// The settings as they stand in the preferences, normally a Dictionary; none where there are none.
     virtual std::optional<QVariant> configuration() const = 0;
-    /// Replaces the settings as a whole. Nothing is checked until the changes are committed.
+    /// Asks for these settings as a whole, as a form does that shows one address and two servers. What the
+    /// form did not change stays as it is, also what it cannot show (a second address, a third server, a
+    /// method that counts as DHCP). Nothing is checked until the changes are committed.
     virtual bool setConfiguration(const Dictionary& configuration) = 0;
+    /// Asks for those settings alone that the dictionary names; an invalid value takes one away. A method
+    /// that is another one takes the addresses and the router of the old one along.
+    virtual bool changeConfiguration(const Dictionary& changes) = 0;
 };
 
 /// A piece of network hardware, or what the system presents as such.
@@ -67,6 +74,8 @@ public:
     virtual std::optional<QString> name() const = 0;
     virtual std::optional<QString> serviceID() const = 0;
     virtual bool isEnabled() const = 0;
+    /// Whether it is its user's alone, and can be changed with the right for those.
+    virtual bool isPersonal() const { return false; }
     /// Takes effect with commit and apply, like a changed protocol configuration.
     virtual bool setEnabled(bool enabled) = 0;
     /// Null for a service without an interface.
@@ -115,6 +124,14 @@ public:
     virtual std::optional<QString> computerName() = 0;
 };
 
+/// Somebody who keeps others from changing the preferences.
+struct LockHolder {
+    /// Its process number, where that can be told.
+    std::optional<qint64> processID;
+    bool operator==(const LockHolder&) const = default;
+};
+using WaitingObserver = std::function<void(const std::optional<LockHolder>&)>;
+
 /// The system's network configuration. All of it is used from one thread at a time and may block it; one
 /// operation (all handles that live at the same time) answers within ten seconds, waiting for the lock and
 /// for a prompt not counted.
@@ -131,8 +148,17 @@ public:
     /// Nothing will be asked for a while: gives up what was kept to answer the next operation sooner. Each
     /// operation is told how things are at its moment in any case.
     virtual void rest() {}
+    /// Has the observer told who holds the lock that an operation begins to wait for, and none when it has
+    /// it, on the thread of the operation. To be set before the first one.
+    void observeWaiting(WaitingObserver observer) { m_waiting = std::move(observer); }
     /// The status of the last call of this library, as a code of SystemStatus.
     virtual qint32 error() const = 0;
+
+protected:
+    const WaitingObserver& waitingObserver() const { return m_waiting; }
+
+private:
+    WaitingObserver m_waiting = [](const std::optional<LockHolder>&) {};
 };
 
 } // namespace ardeo

@@ -16,6 +16,8 @@ public:
     virtual ~UserDefaults() = default;
     /// None where nothing was stored or it cannot be read.
     virtual std::optional<QByteArray> data(const QString& key) const = 0;
+    /// Whether something is stored that cannot be read.
+    virtual bool isUnreadable(const QString& key) const = 0;
     /// On disk when it returns. Where that cannot be had, what was stored before stays whole.
     virtual void set(const QByteArray& data, const QString& key) = 0;
 

@@ -12,12 +12,14 @@ NetworkPresetStore::NetworkPresetStore(UserDefaults& defaults)
     , m_defaults(defaults)
 {
     const auto stored = m_defaults.data(key);
+    m_isUnreadable = m_defaults.isUnreadable(key);
     if (!stored)
         return;
     if (auto presets = decodePresets(*stored))
         m_presets = std::move(*presets);
     else
         m_unreadable = stored;
+    m_isUnreadable = m_unreadable.has_value();
 }
 
 void NetworkPresetStore::setPresets(const QList<NetworkPreset>& presets)
@@ -38,6 +40,8 @@ void NetworkPresetStore::upsert(const NetworkPreset& preset)
 
 void NetworkPresetStore::upsertAll(const QList<NetworkPreset>& presets)
 {
+    if (presets.isEmpty())
+        return;
     Q_EMIT presetsWillChange();
     QHash<QUuid, qsizetype> positions;
     for (qsizetype i = m_presets.size() - 1; i >= 0; --i)
@@ -71,6 +75,7 @@ void NetworkPresetStore::persist()
     if (m_unreadable && !putAside(*m_unreadable))
         return;
     m_unreadable.reset();
+    m_isUnreadable = false;
     m_defaults.set(*encoded, key);
 }
 

@@ -202,7 +202,7 @@ private Q_SLOTS:
               {"set IPv4", "", "open,lock,set IPv4,set DNS,commit,apply,unlock"},
               {"commit", "Cannot save changes (SC 1003).", "open,lock,set IPv4,set DNS,commit,unlock"},
               {"apply", "Cannot apply changes (SC 1003).", "open,lock,set IPv4,set DNS,commit,apply,unlock"},
-              {"keeping DNS", "", "open,lock,set IPv4,commit,apply,unlock"}}) {
+              {"keeping DNS", "", "open,lock,change IPv4,commit,apply,unlock"}}) {
             const QString refused = QLatin1String(step);
             FakeSystemConfiguration system;
             system.services = {wifi()};
@@ -213,9 +213,10 @@ private Q_SLOTS:
             system.services->first().protocols.remove(refused);
             system.refusals = {{refused, 1003}, {u"unlock"_s, -5}}; // the last is too late to be the reason
             NetworkConfigService service(system);
-            const auto dns = refused == u"keeping DNS"_s ? NetworkConfigService::DNSHandling::keep
-                                                         : NetworkConfigService::DNSHandling::replace;
-            QCOMPARE(failureOf(service.writeConfiguration(u"Wi-Fi"_s, {}, {1}, dns)), QLatin1String(message));
+            const auto named =
+                refused == u"keeping DNS"_s ? std::optional(Settings(Setting::ipv4Mode)) : std::nullopt;
+            QCOMPARE(failureOf(service.writeConfiguration(u"Wi-Fi"_s, {}, {1}, named)),
+                     QLatin1String(message));
             QCOMPARE(system.calls.join(u','), QLatin1String(calls));
         }
     }

@@ -26,6 +26,7 @@ public:
         std::optional<Interface> interface = {};
         QMap<QString, std::optional<QVariant>> protocols = {{u"IPv4"_s, std::nullopt},
                                                             {u"DNS"_s, std::nullopt}};
+        bool personal = false;
     };
 
     bool preferencesAvailable = true;
@@ -43,6 +44,10 @@ public:
     QSemaphore gate{1000};
     /// Whether one gave up because the gate stayed closed: whoever was to open it was waiting itself.
     std::atomic<bool> gaveUp = false;
+
+    /// Who holds the lock until it is released.
+    std::optional<LockHolder> lockHolder;
+    QSemaphore lockReleased;
 
     void rest() override { ++rests; }
     std::unique_ptr<Preferences> createPreferences(const QString& name) override
@@ -79,6 +84,11 @@ private:
             value = dictionary;
             return system.step(u"set "_s + name);
         }
+        bool changeConfiguration(const Dictionary& changes) override
+        {
+            value = changes;
+            return system.step(u"change "_s + name);
+        }
         FakeSystemConfiguration& system;
         std::optional<QVariant>& value;
         QString name;
@@ -95,6 +105,7 @@ private:
         std::optional<QString> name() const override { return service.name; }
         std::optional<QString> serviceID() const override { return service.id; }
         bool isEnabled() const override { return service.enabled; }
+        bool isPersonal() const override { return service.personal; }
         bool setEnabled(bool enabled) override
         {
             service.enabled = enabled;
@@ -132,7 +143,15 @@ private:
                 list.push_back(std::make_shared<FakeService>(system, service));
             return list;
         }
-        bool lock(bool wait) override { return system.step(wait ? u"lock"_s : u"try lock"_s); }
+        bool lock(bool wait) override
+        {
+            if (system.lockHolder) {
+                system.waitingObserver()(system.lockHolder);
+                system.lockReleased.acquire();
+                system.waitingObserver()(std::nullopt);
+            }
+            return system.step(wait ? u"lock"_s : u"try lock"_s);
+        }
         bool commitChanges() override { return system.step(u"commit"_s); }
         bool applyChanges() override { return system.step(u"apply"_s); }
         bool unlock() override { return system.step(u"unlock"_s); }

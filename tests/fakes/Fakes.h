@@ -60,6 +60,7 @@ public:
     bool available = true;
     bool granted = true;
     int prompts = 0;
+    QStringList rights;
     quint32 flags = 0;
     QList<quint64> live;
 
@@ -74,7 +75,8 @@ public:
     {
         ++prompts;
         flags = asked;
-        return granted && right == u"system.preferences.network"_s;
+        rights.append(right);
+        return granted;
     }
     void free(AuthorizationRef reference, quint32) override { live.removeOne(reference.handle); }
 
@@ -86,13 +88,15 @@ class FakeUserDefaults final : public UserDefaults
 {
 public:
     QMap<QString, QByteArray> values;
+    QStringList unreadable;
     int writes = 0;
     /// Drops what is set.
     bool full = false;
     std::optional<QByteArray> data(const QString& key) const override
     {
-        return values.contains(key) ? std::optional(values.value(key)) : std::nullopt;
+        return values.contains(key) && !isUnreadable(key) ? std::optional(values.value(key)) : std::nullopt;
     }
+    bool isUnreadable(const QString& key) const override { return unreadable.contains(key); }
     void set(const QByteArray& data, const QString& key) override
     {
         ++writes;

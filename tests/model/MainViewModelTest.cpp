@@ -40,10 +40,10 @@ struct Fixture : FakePlatform {
         return (*system->services)[1].protocols[protocol]->toMap();
     }
     /// Starts an action and lets it run until it waits for the clock or has ended.
-    template <typename Action>
-    void start(Action action)
+    template <typename Action, typename... Arguments>
+    void start(Action action, Arguments... arguments)
     {
-        (model.get()->*action)();
+        (model.get()->*action)(arguments...);
         settle();
     }
     void settle() { QTRY_VERIFY(clock->sleepers() > 0 || !model->isApplying.value()); }
@@ -144,7 +144,7 @@ private Q_SLOTS:
     {
         Fixture fixture(false);
         MainViewModel& model = *fixture.model;
-        fixture.start(&MainViewModel::applyConfiguration);
+        fixture.start(&MainViewModel::applyConfiguration, std::nullopt);
         QCOMPARE(fixture.authorization->prompts, 0); // nothing selected yet, nothing happens
         QCoro::waitFor(model.loadAdapters());
         model.ipv4Mode = IPv4Mode::manual;
@@ -152,7 +152,7 @@ private Q_SLOTS:
         model.dnsMode = DNSMode::manual;
         model.searchDomains = u"  corp.example\t\tlab.example\u2003x\ny  "_s;
         model.applyError = Text(u"old"_s);
-        fixture.start(&MainViewModel::applyConfiguration);
+        fixture.start(&MainViewModel::applyConfiguration, std::nullopt);
         QVERIFY(model.isApplying.value() && !model.applyError.value());
         const QStringList domains{u"corp.example"_s, u"lab.example"_s, u"x\ny"_s};
         QCOMPARE(fixture.written(u"DNS"_s), (Dictionary{{u"SearchDomains"_s, domains}}));
@@ -174,6 +174,21 @@ private Q_SLOTS:
         QVERIFY(!model.applySuccess.value());
     }
 
+    void waitingForAnotherProgramIsToldAfterHalfASecond()
+    {
+        Fixture fixture;
+        MainViewModel& model = *fixture.model;
+        fixture.system->lockHolder = LockHolder{.processID = 4711};
+        model.setAdapterEnabled(true);
+        QTRY_COMPARE(fixture.clock->sleepers(), 1);
+        fixture.clock->advance(499ms);
+        QVERIFY(!model.waitsFor.value());
+        fixture.clock->advance(1ms);
+        QTRY_COMPARE(model.waitsFor.value(), fixture.system->lockHolder);
+        fixture.system->lockReleased.release();
+        QTRY_VERIFY(!model.waitsFor.value());
+    }
+
     void consentIsAskedForOnceUntilSomethingFails()
     {
         Fixture fixture;
@@ -181,7 +196,7 @@ private Q_SLOTS:
         FakeAuthorization& authorization = *fixture.authorization;
         const auto attempt = [&](qint32 status) {
             fixture.system->refusals[u"commit"_s] = status;
-            fixture.start(&MainViewModel::applyConfiguration);
+            fixture.start(&MainViewModel::applyConfiguration, std::nullopt);
             fixture.clock->advance(10s);
             QTRY_VERIFY(!model.isApplying.value());
             fixture.clock->advance(10s); // the follow-up too
@@ -198,6 +213,11 @@ private Q_SLOTS:
         QCOMPARE(authorization.prompts, 2);
         QVERIFY(!model.applyError.value());
         QCOMPARE(fixture.system->authorization.handle, authorization.live.first());
+        (*fixture.system->services)[1].personal = true;
+        attempt(0); // lists it so
+        attempt(0);
+        QCOMPARE(authorization.rights.mid(2), QStringList(u"user.preferences.network"_s));
+        QCOMPARE(authorization.live.size(), 1);
 
         model.authService.invalidate();
         authorization.granted = false;
@@ -281,6 +301,10 @@ private Q_SLOTS:
         QCOMPARE(model.presetStore.presets(), QList{presets.first()});
         fixture.filePanels->place = folder.path();
         QVERIFY(!model.exportPresets());
+        fixture.userDefaults->unreadable = {u"org.ardeo.IPConfig.presets"_s};
+        file("more");
+        QVERIFY(!MainViewModel::create(fixture.platform)->exportPresets());
+        QCOMPARE(QFileInfo(*fixture.filePanels->place).size(), 4);
     }
 
     void startingAtLoginIsWhatTheSystemSays()

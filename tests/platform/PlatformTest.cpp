@@ -1,10 +1,12 @@
 #include "platform/Platform.h"
 #include "platform/FileUserDefaults.h"
 #include "platform/ProtocolConfiguration.h"
+#include "platform/ServiceChanges.h"
 #include "platform/linux/BootTimeClock.h"
 #include "platform/linux/XdgLoginItem.h"
 #include "platform/simulated/SimulatedPlatform.h"
 
+#include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -52,6 +54,48 @@ private Q_SLOTS:
             QVERIFY2((ipv4 && dns) == row.accepted, row.address);
         }
         QVERIFY(!checkedDNS({{u"SearchDomains"_s, QStringList(u"a\nnameserver 6.6.6.6"_s)}}));
+    }
+
+    void aFormChangesOnlyWhatItShows()
+    {
+        const auto dictionary = [](const char* json) {
+            return QJsonDocument::fromJson(QByteArray(json).replace('\'', '"')).toVariant().toMap();
+        };
+        // What there is, what the form asks for, and what comes of it.
+        const struct {
+            Dictionary (*differences)(const Dictionary&, const Dictionary&);
+            const char *present, *wanted, *result;
+        } rows[]{
+            {&ipv4Differences, "{'ConfigMethod':'shared'}", "{'ConfigMethod':'DHCP'}",
+             "{'ConfigMethod':'shared'}"},
+            {&ipv4Differences, "{'ConfigMethod':'DHCP','Addresses':['10.0.0.3'],'SubnetMasks':['255.0.0.0']}",
+             "{'ConfigMethod':'Manual','Addresses':['10.0.0.4'],'SubnetMasks':['255.0.0.0']}",
+             "{'ConfigMethod':'Manual','Addresses':['10.0.0.4'],'SubnetMasks':['255.0.0.0']}"},
+            {&ipv4Differences,
+             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3','10.0.0.5'],'SubnetMasks':['255.0.0.0','255.0."
+             "0.0'],"
+             "'Router':'10.0.0.1'}",
+             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3'],'SubnetMasks':['255.0.0.0']}",
+             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3','10.0.0.5'],'SubnetMasks':['255.0.0.0','255.0."
+             "0.0']}"},
+            {&dnsDifferences, "{'ServerAddresses':['1.1.1.1','2.2.2.2','3.3.3.3'],'SearchDomains':['a']}",
+             "{'ServerAddresses':['1.1.1.1','2.2.2.2'],'SearchDomains':['b']}",
+             "{'ServerAddresses':['1.1.1.1','2.2.2.2','3.3.3.3'],'SearchDomains':['b']}"},
+            {&dnsDifferences, "{'ServerAddresses':['1.1.1.1'],'SearchDomains':['a']}", "{}", "{}"},
+            {&dnsDifferences, "{'SearchDomains':['a']}", "{}", "{'SearchDomains':['a']}"},
+        };
+        for (const auto& row : rows) {
+            const auto asRead = [&](const char* json) {
+                Dictionary read = dictionary(json);
+                for (QVariant& value : read) {
+                    if (value.typeId() == QMetaType::QVariantList)
+                        value = value.toStringList();
+                }
+                return read;
+            };
+            const Dictionary present = asRead(row.present);
+            QCOMPARE(changed(present, row.differences(present, asRead(row.wanted))), asRead(row.result));
+        }
     }
 
     void whatCannotBeStoredIsToldOnceAndLeavesWhatIsThere()

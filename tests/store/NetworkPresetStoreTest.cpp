@@ -54,6 +54,8 @@ private Q_SLOTS:
         store.remove(first.id);
         store.setPresets({});
         check(6, 7);
+        store.upsertAll({});
+        check(6, 7);
         QCOMPARE(defaults.values[key], QByteArray("[]"));
     }
 

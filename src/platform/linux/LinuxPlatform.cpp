@@ -14,8 +14,6 @@ namespace ardeo
 namespace
 {
 
-constexpr int probeMilliseconds = 10'000;
-
 std::optional<QString> troubleOf(DaemonPresence presence)
 {
     switch (presence) {
@@ -37,7 +35,6 @@ Platform linuxPlatform(const QString& program)
     auto networkManager = std::make_unique<NetworkManagerConfiguration>();
     Platform platform;
     platform.trouble = [system = networkManager.get()] { return troubleOf(system->presence()); };
-    platform.probe = [] { return troubleOf(probeNetworkManager(probeMilliseconds)); };
     platform.systemConfiguration = std::move(networkManager);
     platform.authorization = std::make_unique<PolkitAuthorization>();
     platform.loginItem =

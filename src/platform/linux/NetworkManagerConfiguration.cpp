@@ -22,7 +22,8 @@ std::unique_ptr<Preferences> NetworkManagerConfiguration::createPreferences(cons
     m_status = current->client() ? SystemStatus::ok : SystemStatus::noStoreServer;
     if (m_status != SystemStatus::ok)
         return nullptr;
-    return std::make_unique<NetworkManagerPreferences>(std::move(current), m_status, false);
+    return std::make_unique<NetworkManagerPreferences>(std::move(current), m_status, false,
+                                                       waitingObserver());
 }
 
 std::unique_ptr<Preferences>
@@ -33,7 +34,7 @@ NetworkManagerConfiguration::createPreferencesWithAuthorization(const QString& /
     m_status = current->client() ? SystemStatus::ok : SystemStatus::noStoreServer;
     if (m_status != SystemStatus::ok)
         return nullptr;
-    return std::make_unique<NetworkManagerPreferences>(std::move(current), m_status, true);
+    return std::make_unique<NetworkManagerPreferences>(std::move(current), m_status, true, waitingObserver());
 }
 
 std::unique_ptr<DynamicStore> NetworkManagerConfiguration::createDynamicStore(const QString& /*name*/)

@@ -1,5 +1,7 @@
 #include "platform/linux/NetworkManagerPreferences.h"
 
+#include "platform/linux/NetworkManagerActivation.h"
+#include "platform/linux/NetworkManagerError.h"
 #include "platform/linux/NetworkManagerServices.h"
 #include "platform/linux/PolkitRights.h"
 #include "platform/linux/ProfileTranslation.h"
@@ -19,44 +21,20 @@ namespace
 /// on it vanishes with its holder, however that one ends.
 constexpr auto lockFolder = "/run/NetworkManager";
 
-/// The status that stands for a call of the daemon that failed.
-SystemStatus statusOf(const GLibError& error)
+/// Writes the changes into the profile; false when it cannot be taken.
+bool translate(const ServiceChanges& changes, NMConnection* profile)
 {
-    if (!error)
-        return SystemStatus::failed;
-    const auto is = [&error](GQuark domain, int code) {
-        return g_error_matches(error.get(), domain, code) != FALSE;
-    };
-    if (is(G_IO_ERROR, G_IO_ERROR_CANCELLED) || is(G_IO_ERROR, G_IO_ERROR_CLOSED) ||
-        is(G_DBUS_ERROR, G_DBUS_ERROR_SERVICE_UNKNOWN) || is(G_DBUS_ERROR, G_DBUS_ERROR_NAME_HAS_NO_OWNER) ||
-        is(G_DBUS_ERROR, G_DBUS_ERROR_NO_REPLY) || is(G_DBUS_ERROR, G_DBUS_ERROR_DISCONNECTED))
-        return SystemStatus::noStoreServer;
-    if (is(NM_SETTINGS_ERROR, NM_SETTINGS_ERROR_PERMISSION_DENIED) ||
-        is(NM_MANAGER_ERROR, NM_MANAGER_ERROR_PERMISSION_DENIED) ||
-        is(G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED))
-        return SystemStatus::accessError;
-    if (error.get()->domain == NM_CONNECTION_ERROR ||
-        is(NM_SETTINGS_ERROR, NM_SETTINGS_ERROR_INVALID_CONNECTION))
-        return SystemStatus::invalidArgument;
-    if (is(G_DBUS_ERROR, G_DBUS_ERROR_UNKNOWN_OBJECT) || is(G_DBUS_ERROR, G_DBUS_ERROR_UNKNOWN_METHOD))
-        return SystemStatus::noKey; // the profile was deleted
-    return SystemStatus::failed;
-}
-
-/// Writes what was set into the profile; false when it cannot be taken.
-bool translate(const Profile& changes, NMConnection* profile)
-{
-    if (changes.ipv4) {
-        const auto checked = checkedIPv4(*changes.ipv4);
+    if (changes.ipv4 && !changes.ipv4->isEmpty()) {
+        const auto checked = checkedIPv4(changed(ipv4DictionaryOf(profile), *changes.ipv4));
         if (!checked)
             return false;
-        setIPv4(profile, *checked);
+        changeIPv4(profile, *checked, *changes.ipv4);
     }
     if (changes.dns) {
         const auto checked = checkedDNS(*changes.dns);
         if (!checked)
             return false;
-        setDNS(profile, *checked);
+        changeDNS(profile, *checked, *changes.dns);
     }
     if (changes.enabled) {
         g_object_set(nm_connection_get_setting_connection(profile), NM_SETTING_CONNECTION_AUTOCONNECT,
@@ -68,6 +46,14 @@ bool translate(const Profile& changes, NMConnection* profile)
 bool isAutoconnected(NMConnection* profile)
 {
     return nm_setting_connection_get_autoconnect(nm_connection_get_setting_connection(profile)) != FALSE;
+}
+
+/// Whether the profile's network is there; that of anything but Wi-Fi is where its device is ready.
+bool isInReach(NMDevice* device, NMRemoteConnection* connection)
+{
+    const GPtrArray* available = nm_device_get_available_connections(device);
+    return !NM_IS_DEVICE_WIFI(device) ||
+           g_ptr_array_find(const_cast<GPtrArray*>(available), connection, nullptr);
 }
 
 /// Reads a profile from the daemon, not from the snapshot; null with the error when that fails.
@@ -91,11 +77,12 @@ GRef<NMConnection> readAnew(NetworkManagerSession& session, NMRemoteConnection* 
 } // namespace
 
 NetworkManagerPreferences::NetworkManagerPreferences(std::shared_ptr<NetworkManagerSession> session,
-                                                     SystemStatus& status, bool authorized)
+                                                     SystemStatus& status, bool authorized,
+                                                     const WaitingObserver& waiting)
     : m_session(std::move(session))
     , m_status(status)
     , m_authorized(authorized)
-    , m_lock(QLatin1String(lockFolder), O_RDONLY | O_DIRECTORY)
+    , m_lock(QLatin1String(lockFolder), O_RDONLY | O_DIRECTORY, waiting)
 {
 }
 
@@ -131,13 +118,10 @@ bool NetworkManagerPreferences::lock(bool wait)
 
 SystemStatus NetworkManagerPreferences::takeFileLock(bool wait)
 {
-    SystemStatus status = m_lock.take(false);
-    if (status != SystemStatus::preferencesBusy || !wait)
-        return status;
     QElapsedTimer waiting;
     waiting.start();
-    status = m_lock.take(true);
-    if (status != SystemStatus::ok)
+    const SystemStatus status = m_lock.take(wait);
+    if (status != SystemStatus::ok || !m_lock.wasWaitedFor())
         return status;
     m_session->extendDeadline(waiting.elapsed());
     // What the holder before us wrote is what we have to start from.
@@ -147,15 +131,20 @@ SystemStatus NetworkManagerPreferences::takeFileLock(bool wait)
 
 SystemStatus NetworkManagerPreferences::checkRights()
 {
-    for (const char* action : networkActions()) {
-        const auto answer = askPolkit(m_session->loop(), m_session->deadline(), action, false);
-        // A consent that lapsed is refused here, so that the next action prompts and not the daemon in the
-        // middle of this one. One that polkit never keeps can only be asked for by the daemon itself.
-        if (!answer || (!answer->authorized && answer->keepsConsent))
-            return SystemStatus::accessError;
-        if (!answer->authorized)
-            m_session->removeDeadline();
-    }
+    m_hasPersonalProfiles = hasPersonalProfiles(m_session->client());
+    const SystemStatus status = checkRight(networkControlAction);
+    return status != SystemStatus::ok || m_hasPersonalProfiles ? status : checkRight(modifySystemAction);
+}
+
+SystemStatus NetworkManagerPreferences::checkRight(const char* action)
+{
+    const auto answer = askPolkit(m_session->loop(), m_session->deadline(), action, false);
+    // A consent that lapsed is refused here, so that the next action prompts and not the daemon in the
+    // middle of this one. One that polkit never keeps can only be asked for by the daemon itself.
+    if (!answer || (!answer->authorized && answer->keepsConsent))
+        return SystemStatus::accessError;
+    if (!answer->authorized)
+        m_session->removeDeadline();
     return SystemStatus::ok;
 }
 
@@ -183,6 +172,12 @@ bool NetworkManagerPreferences::commitChanges()
 
 SystemStatus NetworkManagerPreferences::commit(Profile& profile)
 {
+    if (m_hasPersonalProfiles) {
+        const bool isOwn = isPersonal(NM_CONNECTION(profile.connection.get()));
+        const SystemStatus status = checkRight(isOwn ? modifyOwnAction : modifySystemAction);
+        if (status != SystemStatus::ok)
+            return status;
+    }
     GLibError error;
     GRef<NMConnection> changed = readAnew(*m_session, profile.connection.get(), error);
     if (!changed)
@@ -191,13 +186,14 @@ SystemStatus NetworkManagerPreferences::commit(Profile& profile)
                                                                 NM_SETTING_COMPARE_FLAG_IGNORE_TIMESTAMP);
     if (!nm_connection_compare(changed.get(), profile.seen.get(), ignored))
         return SystemStatus::stale;
-    if (!translate(profile, changed.get()))
+    if (!translate(profile.changes, changed.get()))
         return SystemStatus::invalidArgument;
 
-    // To disk, also if the daemon made the profile up; and without connecting by itself, which is for apply
-    // to do. Secrets are not among what was read, and an update without any leaves them as they are.
-    constexpr auto flags = static_cast<NMSettingsUpdate2Flags>(NM_SETTINGS_UPDATE2_FLAG_TO_DISK |
-                                                               NM_SETTINGS_UPDATE2_FLAG_BLOCK_AUTOCONNECT);
+    // To disk, also if the daemon made the profile up. Secrets are not among what was read, and an update
+    // without any leaves them as they are. The daemon may connect a profile that was just enabled before
+    // apply does, with the same settings; keeping it from that would keep it from connecting when the cable
+    // comes back, too.
+    constexpr auto flags = NM_SETTINGS_UPDATE2_FLAG_TO_DISK;
     const auto ended = m_session->loop().call(
         m_session->deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
             nm_remote_connection_update2(profile.connection.get(),
@@ -208,7 +204,6 @@ SystemStatus NetworkManagerPreferences::commit(Profile& profile)
         nm_remote_connection_update2_finish(profile.connection.get(), ended.get(), error.out()));
     if (!updated)
         return statusOf(error);
-    profile.justEnabled = !isAutoconnected(profile.seen.get()) && isAutoconnected(changed.get());
     profile.seen.reset();
     profile.committed = std::move(changed);
     return SystemStatus::ok;
@@ -233,107 +228,53 @@ SystemStatus NetworkManagerPreferences::apply(const Profile& profile)
     NMClient* client = m_session->client();
     if (!nm_client_get_nm_running(client))
         return SystemStatus::noStoreServer;
-    NMRemoteConnection* connection = profile.connection.get();
-    NMActiveConnection* active = activationOf(client, connection);
-    if (!isAutoconnected(profile.committed.get()))
-        return active ? deactivate(active) : SystemStatus::ok;
-
-    const QByteArrayView method(
-        nm_setting_ip_config_get_method(nm_connection_get_setting_ip4_config(profile.committed.get())));
-    const bool dhcp = method == NM_SETTING_IP4_CONFIG_METHOD_AUTO;
     // The daemon may go away while it is asked, and its objects with it.
-    const GRef<NMDevice> device = newRef(deviceOf(client, connection));
-    if (active) {
-        // Reapplying would send no DHCP message, and it is a fresh lease that is wanted here.
-        const bool complete = nm_active_connection_get_state(active) == NM_ACTIVE_CONNECTION_STATE_ACTIVATED;
-        if (!dhcp && device && complete && reapply(device.get()))
-            return SystemStatus::ok;
-        return activate(connection, device.get(), dhcp);
+    std::vector<GRef<NMActiveConnection>> actives;
+    for (NMActiveConnection* active : activationsOf(client, profile.connection.get()))
+        actives.push_back(newRef(active));
+    return actives.empty() ? applyToInactive(profile) : applyToActive(profile, actives);
+}
+
+SystemStatus NetworkManagerPreferences::applyToActive(const Profile& profile,
+                                                      const std::vector<GRef<NMActiveConnection>>& actives)
+{
+    NetworkManagerActivation activation(*m_session, profile.connection.get(), profile.committed.get());
+    for (const auto& active : actives) {
+        const GRef<NMDevice> device = newRef(deviceOf(active.get()));
+        const SystemStatus status =
+            profile.changes.enabled == false
+                ? activation.takeDown(active.get())
+                : activation.renew(active.get(), device.get(), profile.changes.asksForLease());
+        if (status != SystemStatus::ok)
+            return status;
     }
-    // Without a device that could take it at once, the next activation will find it as it was saved.
-    if (!device)
+    return SystemStatus::ok;
+}
+
+SystemStatus NetworkManagerPreferences::applyToInactive(const Profile& profile)
+{
+    NMRemoteConnection* connection = profile.connection.get();
+    const bool enabling = profile.changes.enabled == true;
+    if (!isAutoconnected(profile.committed.get()))
         return SystemStatus::ok;
-    const NMDeviceState state = nm_device_get_state(device.get());
-    const bool free = state == NM_DEVICE_STATE_DISCONNECTED || state == NM_DEVICE_STATE_FAILED;
-    const bool ready = state >= NM_DEVICE_STATE_DISCONNECTED;
-    return free || (ready && profile.justEnabled) ? activate(connection, device.get(), dhcp)
-                                                  : SystemStatus::ok;
-}
-
-bool NetworkManagerPreferences::reapply(NMDevice* device)
-{
-    const auto ended = m_session->loop().call(
-        m_session->deadline(), [device](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-            nm_device_reapply_async(device, nullptr, 0, 0, cancellable, done, data);
-        });
-    return nm_device_reapply_finish(device, ended.get(), nullptr) != FALSE;
-}
-
-SystemStatus NetworkManagerPreferences::activate(NMRemoteConnection* connection, NMDevice* device, bool dhcp)
-{
-    NMClient* client = m_session->client();
-    GDBusConnection* bus = nm_client_get_dbus_connection(client);
-    // Not by the library's own call: that waits for the activation to show up, and when the daemon goes away
-    // first, it neither ends nor can be cancelled.
-    const auto ended = m_session->loop().call(
-        m_session->deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-            const char* any = "/";
-            g_dbus_connection_call(
-                bus, NM_DBUS_SERVICE, NM_DBUS_PATH, NM_DBUS_INTERFACE, "ActivateConnection",
-                g_variant_new("(ooo)", nm_connection_get_path(NM_CONNECTION(connection)),
-                              device ? nm_object_get_path(NM_OBJECT(device)) : any, any),
-                G_VARIANT_TYPE("(o)"), G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, cancellable, done, data);
-        });
-    GLibError error;
-    const GVariantRef answer(g_dbus_connection_call_finish(bus, ended.get(), error.out()));
-    if (!answer)
-        return statusOf(error);
-    const char* path = nullptr;
-    g_variant_get(answer.get(), "(&o)", &path);
-
-    // An address that was set is in force once the activation is complete. A network that is asked for one
-    // may take its time, or never answer; there the activation has done its part when it begins to ask, and
-    // where a person has to be asked for a secret, when it begins to wait for them.
-    GRef<NMActiveConnection> active;
-    bool done = false;
-    const bool settled = m_session->loop().runUntil(m_session->deadline(), [&] {
-        if (!nm_client_get_nm_running(client))
-            return true;
-        NMObject* shown = nm_client_get_object_by_path(client, path);
-        if (!active && NM_IS_ACTIVE_CONNECTION(shown))
-            active = newRef(NM_ACTIVE_CONNECTION(shown));
-        if (!active)
-            return false;
-        const auto state = nm_active_connection_get_state(active.get());
-        done = state == NM_ACTIVE_CONNECTION_STATE_ACTIVATED;
-        if (!done && device && nm_device_get_active_connection(device) == active.get()) {
-            const NMDeviceState reached = nm_device_get_state(device);
-            done = reached == NM_DEVICE_STATE_NEED_AUTH ||
-                   (dhcp && reached >= NM_DEVICE_STATE_IP_CONFIG && reached <= NM_DEVICE_STATE_ACTIVATED);
-        }
-        return done || state == NM_ACTIVE_CONNECTION_STATE_DEACTIVATED;
-    });
-    if (done)
+    NetworkManagerActivation activation(*m_session, connection, profile.committed.get());
+    const GRef<NMDevice> device = newRef(deviceOf(m_session->client(), connection));
+    if (!device) {
+        // A bridge, for example, has its device only while it is up; hardware that is not there is another
+        // matter.
+        const bool isVPN =
+            nm_connection_is_type(NM_CONNECTION(connection), NM_SETTING_VPN_SETTING_NAME) != FALSE;
+        const bool makesItsDevice = nm_connection_is_virtual(NM_CONNECTION(connection)) != FALSE;
+        return makesItsDevice || (isVPN && enabling) ? activation.takeUp(nullptr) : SystemStatus::ok;
+    }
+    // What cannot be taken up now, the daemon takes up by itself, as it was saved, when a cable or a network
+    // is there.
+    const Readiness readiness = readinessOf(device.get());
+    if (readiness == Readiness::unready || (readiness == Readiness::held && !enabling))
         return SystemStatus::ok;
-    return settled && nm_client_get_nm_running(client) ? SystemStatus::failed : SystemStatus::noStoreServer;
-}
-
-SystemStatus NetworkManagerPreferences::deactivate(NMActiveConnection* borrowed)
-{
-    NMClient* client = m_session->client();
-    const GRef<NMActiveConnection> active = newRef(borrowed);
-    const auto ended = m_session->loop().call(
-        m_session->deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-            nm_client_deactivate_connection_async(client, active.get(), cancellable, done, data);
-        });
-    GLibError error;
-    if (!nm_client_deactivate_connection_finish(client, ended.get(), error.out()))
-        return statusOf(error);
-    const bool down = m_session->loop().runUntil(m_session->deadline(), [&] {
-        return nm_active_connection_get_state(active.get()) == NM_ACTIVE_CONNECTION_STATE_DEACTIVATED ||
-               !nm_client_get_nm_running(client);
-    });
-    return down && nm_client_get_nm_running(client) ? SystemStatus::ok : SystemStatus::noStoreServer;
+    if (isInReach(device.get(), connection))
+        return activation.takeUp(device.get());
+    return enabling ? activation.beginToTakeUp(device.get()) : SystemStatus::ok;
 }
 
 } // namespace ardeo

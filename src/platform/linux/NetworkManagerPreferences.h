@@ -1,23 +1,21 @@
 #pragma once
 
 #include "platform/AdvisoryLock.h"
+#include "platform/ServiceChanges.h"
 #include "platform/linux/NetworkManagerSession.h"
 
 namespace ardeo
 {
 
-/// A connection profile, and what was set for it through the handle but is not committed yet.
+/// A connection profile, and what was set for it through the handle.
 struct Profile {
     GRef<NMRemoteConnection> connection;
-    std::optional<Dictionary> ipv4;
-    std::optional<Dictionary> dns;
-    std::optional<bool> enabled;
-    /// The profile as it was when it was first changed here: what a commit expects to find.
+    ServiceChanges changes;
+    /// The profile as it was when it was first changed here: what a commit expects to find; null before a
+    /// change and after its commit.
     GRef<NMConnection> seen;
     /// The profile as it was committed; null before.
     GRef<NMConnection> committed;
-    /// Whether the commit switched it from disabled to enabled.
-    bool justEnabled = false;
 };
 
 /// The preferences as NetworkManager's connection profiles, and the transaction that changes one.
@@ -26,7 +24,7 @@ class NetworkManagerPreferences final : public Preferences
 public:
     /// Failed steps leave their reason in status.
     NetworkManagerPreferences(std::shared_ptr<NetworkManagerSession> session, SystemStatus& status,
-                              bool authorized);
+                              bool authorized, const WaitingObserver& waiting);
     NetworkManagerPreferences(const NetworkManagerPreferences&) = delete;
     NetworkManagerPreferences& operator=(const NetworkManagerPreferences&) = delete;
 
@@ -40,16 +38,18 @@ private:
     bool end(SystemStatus status);
     SystemStatus takeFileLock(bool wait);
     SystemStatus checkRights();
+    SystemStatus checkRight(const char* action);
     SystemStatus commit(Profile& profile);
     SystemStatus apply(const Profile& profile);
-    SystemStatus activate(NMRemoteConnection* connection, NMDevice* device, bool dhcp);
-    SystemStatus deactivate(NMActiveConnection* borrowed);
-    bool reapply(NMDevice* device);
+    SystemStatus applyToActive(const Profile& profile, const std::vector<GRef<NMActiveConnection>>& actives);
+    SystemStatus applyToInactive(const Profile& profile);
 
     std::shared_ptr<NetworkManagerSession> m_session;
     SystemStatus& m_status;
     bool m_authorized;
     AdvisoryLock m_lock;
+    /// Whether it depends on the profile which right its change takes.
+    bool m_hasPersonalProfiles = false;
     std::vector<std::shared_ptr<Profile>> m_profiles;
     bool m_profilesListed = false;
 };

@@ -2,6 +2,7 @@
 
 #include "platform/linux/ProfileTranslation.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ardeo
@@ -64,28 +65,37 @@ class ProfileProtocol final : public NetworkProtocol
 {
 public:
     using Read = Dictionary (*)(NMConnection*);
-    using Pending = std::optional<Dictionary> Profile::*;
-    ProfileProtocol(std::shared_ptr<Profile> profile, Read read, Pending pending)
+    using Differences = Dictionary (*)(const Dictionary& present, const Dictionary& wanted);
+    using Pending = std::optional<Dictionary> ServiceChanges::*;
+    ProfileProtocol(std::shared_ptr<Profile> profile, Read read, Differences differences, Pending pending)
         : m_profile(std::move(profile))
         , m_read(read)
+        , m_differences(differences)
         , m_pending(pending)
     {
     }
     std::optional<QVariant> configuration() const override
     {
-        const auto& pending = (*m_profile).*m_pending;
-        return pending ? *pending : m_read(NM_CONNECTION(m_profile->connection.get()));
+        const auto& pending = m_profile->changes.*m_pending;
+        return pending ? changed(saved(), *pending) : saved();
     }
     bool setConfiguration(const Dictionary& configuration) override
     {
+        return changeConfiguration(m_differences(saved(), configuration));
+    }
+    bool changeConfiguration(const Dictionary& changes) override
+    {
         remember(*m_profile);
-        (*m_profile).*m_pending = configuration;
+        m_profile->changes.*m_pending = changes;
         return true;
     }
 
 private:
+    Dictionary saved() const { return m_read(NM_CONNECTION(m_profile->connection.get())); }
+
     std::shared_ptr<Profile> m_profile;
     Read m_read;
+    Differences m_differences;
     Pending m_pending;
 };
 
@@ -105,12 +115,13 @@ public:
     bool isEnabled() const override
     {
         NMSettingConnection* common = nm_connection_get_setting_connection(connection());
-        return m_profile->enabled.value_or(nm_setting_connection_get_autoconnect(common) != FALSE);
+        return m_profile->changes.enabled.value_or(nm_setting_connection_get_autoconnect(common) != FALSE);
     }
+    bool isPersonal() const override { return ardeo::isPersonal(connection()); }
     bool setEnabled(bool enabled) override
     {
         remember(*m_profile);
-        m_profile->enabled = enabled;
+        m_profile->changes.enabled = enabled;
         return true;
     }
     std::shared_ptr<NetworkInterface> interface() const override
@@ -121,9 +132,11 @@ public:
     std::shared_ptr<NetworkProtocol> protocol(const QString& type) const override
     {
         if (type == QStringLiteral("IPv4"))
-            return std::make_shared<ProfileProtocol>(m_profile, &ipv4DictionaryOf, &Profile::ipv4);
+            return std::make_shared<ProfileProtocol>(m_profile, &ipv4DictionaryOf, &ipv4Differences,
+                                                     &ServiceChanges::ipv4);
         if (type == QStringLiteral("DNS"))
-            return std::make_shared<ProfileProtocol>(m_profile, &dnsDictionaryOf, &Profile::dns);
+            return std::make_shared<ProfileProtocol>(m_profile, &dnsDictionaryOf, &dnsDifferences,
+                                                     &ServiceChanges::dns);
         return nullptr;
     }
 
@@ -167,6 +180,20 @@ std::vector<std::shared_ptr<Profile>> listProfiles(NMClient* client)
     return profiles;
 }
 
+bool isPersonal(NMConnection* profile)
+{
+    return nm_setting_connection_get_num_permissions(nm_connection_get_setting_connection(profile)) == 1;
+}
+
+bool hasPersonalProfiles(NMClient* client)
+{
+    const GPtrArray* connections = nm_client_get_connections(client);
+    const auto isPersonalProfile = [](gpointer profile) {
+        return isPersonal(static_cast<NMConnection*>(profile));
+    };
+    return std::any_of(connections->pdata, connections->pdata + connections->len, isPersonalProfile);
+}
+
 std::shared_ptr<NetworkSet> networkSetOf(const std::shared_ptr<NetworkManagerSession>& session,
                                          std::vector<std::shared_ptr<Profile>> profiles)
 {
@@ -177,8 +204,9 @@ std::shared_ptr<NetworkSet> networkSetOf(const std::shared_ptr<NetworkManagerSes
     return std::make_shared<ProfileSet>(std::move(services));
 }
 
-NMActiveConnection* activationOf(NMClient* client, NMRemoteConnection* connection)
+std::vector<NMActiveConnection*> activationsOf(NMClient* client, NMRemoteConnection* connection)
 {
+    std::vector<NMActiveConnection*> found;
     const GPtrArray* actives = nm_client_get_active_connections(client);
     for (guint i = 0; i < actives->len; ++i) {
         auto* active = static_cast<NMActiveConnection*>(g_ptr_array_index(actives, i));
@@ -186,38 +214,49 @@ NMActiveConnection* activationOf(NMClient* client, NMRemoteConnection* connectio
         const bool lives =
             state == NM_ACTIVE_CONNECTION_STATE_ACTIVATING || state == NM_ACTIVE_CONNECTION_STATE_ACTIVATED;
         if (lives && nm_active_connection_get_connection(active) == connection)
-            return active;
+            found.push_back(active);
     }
-    return nullptr;
+    return found;
+}
+
+NMDevice* deviceOf(NMActiveConnection* active)
+{
+    const bool isVPN = nm_active_connection_get_vpn(active) != FALSE;
+    const GPtrArray* devices = nm_active_connection_get_devices(active);
+    return !isVPN && devices && devices->len > 0 ? static_cast<NMDevice*>(g_ptr_array_index(devices, 0))
+                                                 : nullptr;
+}
+
+Readiness readinessOf(NMDevice* device)
+{
+    const NMDeviceState state = nm_device_get_state(device);
+    if (state == NM_DEVICE_STATE_DISCONNECTED || state == NM_DEVICE_STATE_FAILED)
+        return Readiness::free;
+    return state > NM_DEVICE_STATE_DISCONNECTED ? Readiness::held : Readiness::unready;
 }
 
 NMDevice* deviceOf(NMClient* client, NMRemoteConnection* connection)
 {
     if (isOfType(connection, NM_SETTING_VPN_SETTING_NAME))
         return nullptr;
-    if (NMActiveConnection* active = activationOf(client, connection)) {
-        const GPtrArray* devices = nm_active_connection_get_devices(active);
-        if (devices && devices->len > 0)
-            return static_cast<NMDevice*>(g_ptr_array_index(devices, 0));
+    for (NMActiveConnection* active : activationsOf(client, connection)) {
+        if (NMDevice* device = deviceOf(active))
+            return device;
     }
     NMConnection* profile = NM_CONNECTION(connection);
     if (const char* bsdName = nm_connection_get_interface_name(profile))
         return nm_client_get_device_by_iface(client, bsdName);
 
-    NMDevice* unready = nullptr;
+    NMDevice* best = nullptr;
     const GPtrArray* devices = nm_client_get_devices(client);
     for (guint i = 0; i < devices->len; ++i) {
         auto* device = static_cast<NMDevice*>(g_ptr_array_index(devices, i));
         // Also compares the hardware address that the profile may insist on.
-        if (!nm_device_connection_compatible(device, profile, nullptr))
-            continue;
-        // A device that cannot take it right now (its cable is out) is only the second choice.
-        if (nm_device_get_state(device) >= NM_DEVICE_STATE_DISCONNECTED)
-            return device;
-        if (!unready)
-            unready = device;
+        if (nm_device_connection_compatible(device, profile, nullptr) &&
+            (!best || readinessOf(device) > readinessOf(best)))
+            best = device;
     }
-    return unready;
+    return best;
 }
 
 } // namespace ardeo

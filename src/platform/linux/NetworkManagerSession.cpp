@@ -18,12 +18,8 @@ namespace ardeo
 namespace
 {
 
-constexpr int operationMilliseconds = 10'000;
-
-/// Asks whoever has that name on the bus for the version of NetworkManager; null with the error when that
-/// fails.
-GVariantRef askForVersion(GLibLoop& loop, QDeadlineTimer deadline, GDBusConnection* bus, const char* name,
-                          GError** error)
+/// Whether the daemon of that name on the bus answers in time.
+bool answers(GLibLoop& loop, QDeadlineTimer deadline, GDBusConnection* bus, const char* name)
 {
     const auto result =
         loop.call(deadline, [=](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
@@ -31,7 +27,7 @@ GVariantRef askForVersion(GLibLoop& loop, QDeadlineTimer deadline, GDBusConnecti
                                    g_variant_new("(ss)", NM_DBUS_INTERFACE, "Version"), nullptr,
                                    G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, cancellable, done, data);
         });
-    return GVariantRef(g_dbus_connection_call_finish(bus, result.get(), error));
+    return GVariantRef(g_dbus_connection_call_finish(bus, result.get(), nullptr)) != nullptr;
 }
 
 } // namespace
@@ -44,7 +40,7 @@ DaemonView::~DaemonView()
     GWeakRef busy;
     g_weak_ref_init(&busy, nm_client_get_context_busy_watcher(client.get()));
     client.reset();
-    loop.runUntil(QDeadlineTimer(operationMilliseconds), [&busy] {
+    loop.runUntil(QDeadlineTimer(NetworkManagerSession::operationMilliseconds), [&busy] {
         const GRef<GObject> alive(static_cast<GObject*>(g_weak_ref_get(&busy)));
         return alive == nullptr;
     });
@@ -76,7 +72,7 @@ NMClient* NetworkManagerSession::client()
     return m_view->client && catchUp() ? m_view->client.get() : connect();
 }
 
-/// Learns all that has happened so far. The daemon answers in turn: what it told before comes before its
+/// The daemon answers in turn: what it told before comes before its
 /// answer. What is new makes the client ask for more, so that a second answer is waited for. False when the
 /// daemon is another one now, or none.
 bool NetworkManagerSession::catchUp()
@@ -85,7 +81,7 @@ bool NetworkManagerSession::catchUp()
     GDBusConnection* const bus = nm_client_get_dbus_connection(client);
     const QByteArray daemon(nm_client_get_dbus_name_owner(client));
     for (int answer = 0; answer < 2; ++answer) {
-        if (daemon.isEmpty() || !askForVersion(m_view->loop, m_deadline, bus, daemon.constData(), nullptr))
+        if (daemon.isEmpty() || !answers(m_view->loop, m_deadline, bus, daemon.constData()))
             return false;
     }
     return nm_client_get_nm_running(client) != FALSE;
@@ -96,7 +92,8 @@ NMClient* NetworkManagerSession::connect()
     m_view = std::make_unique<DaemonView>();
     GDBusConnection* const bus = m_bus.connection(m_deadline);
     if (!bus) {
-        m_presence = DaemonPresence::absent;
+        // A bus that is stopped lets everybody wait.
+        m_presence = m_deadline.hasExpired() ? DaemonPresence::silent : DaemonPresence::absent;
         return nullptr;
     }
     auto result = m_view->loop.call(
@@ -124,21 +121,17 @@ NMClient* NetworkManagerSession::reconnect()
     return connect();
 }
 
-DaemonPresence probeNetworkManager(int milliseconds)
+GVariantRef NetworkManagerSession::ask(const char* method, GVariant* arguments, const char* replyType,
+                                       GLibError& error)
 {
-    GLibLoop loop;
-    const QDeadlineTimer deadline(milliseconds);
-    const auto bus = loop.systemBus(deadline);
-    if (!bus)
-        return DaemonPresence::absent;
-    GLibError error;
-    const GVariantRef answer = askForVersion(loop, deadline, bus.get(), NM_DBUS_SERVICE, error.out());
-    if (answer)
-        return DaemonPresence::answers;
-    const bool nobody = g_error_matches(error.get(), G_DBUS_ERROR, G_DBUS_ERROR_SERVICE_UNKNOWN) ||
-                        g_error_matches(error.get(), G_DBUS_ERROR, G_DBUS_ERROR_NAME_HAS_NO_OWNER) ||
-                        g_error_matches(error.get(), G_DBUS_ERROR, G_DBUS_ERROR_NO_REPLY);
-    return nobody ? DaemonPresence::absent : DaemonPresence::silent;
+    GDBusConnection* const bus = nm_client_get_dbus_connection(m_view->client.get());
+    const auto ended = m_view->loop.call(
+        m_deadline, [=](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+            g_dbus_connection_call(bus, NM_DBUS_SERVICE, NM_DBUS_PATH, NM_DBUS_INTERFACE, method, arguments,
+                                   replyType ? G_VARIANT_TYPE(replyType) : nullptr,
+                                   G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, cancellable, done, data);
+        });
+    return GVariantRef(g_dbus_connection_call_finish(bus, ended.get(), error.out()));
 }
 
 } // namespace ardeo

@@ -29,6 +29,9 @@ struct DaemonView {
 class NetworkManagerSession
 {
 public:
+    /// The time of one operation.
+    static constexpr int operationMilliseconds = 10'000;
+
     /// What it finds out about the daemon's presence is stored in presence.
     /// A view that an earlier operation has left in kept saves making a new one; the session leaves its own
     /// there.
@@ -43,6 +46,11 @@ public:
     /// Takes a new snapshot, because time has passed; null as above.
     NMClient* reconnect();
 
+    /// Calls a method of the daemon itself; null with the error when that fails.
+    GVariantRef ask(const char* method, GVariant* arguments, const char* replyType, GLibError& error);
+    /// Whether the daemon still answers, and has told all that happened before.
+    bool catchUp();
+
     GLibLoop& loop() { return m_view->loop; }
     QDeadlineTimer deadline() const { return m_deadline; }
     /// Lets the operation take that much longer, in milliseconds: it had to wait for somebody else.
@@ -51,7 +59,6 @@ public:
     void removeDeadline() { m_deadline = QDeadlineTimer(QDeadlineTimer::Forever); }
 
 private:
-    bool catchUp();
     NMClient* connect();
 
     SystemBus& m_bus;
@@ -61,8 +68,5 @@ private:
     std::unique_ptr<DaemonView> m_view;
     bool m_asked = false;
 };
-
-/// Asks the daemon for a sign of life, for at most that many milliseconds.
-DaemonPresence probeNetworkManager(int milliseconds);
 
 } // namespace ardeo

@@ -26,10 +26,15 @@ std::optional<AuthorizationRef> PolkitAuthorization::create()
 
 bool PolkitAuthorization::copyRights(AuthorizationRef authorization, const QString& right, quint32 flags)
 {
-    if (right != QStringLiteral("system.preferences.network"))
+    const char* modify = nullptr;
+    if (right == QLatin1String(systemNetworkRight))
+        modify = modifySystemAction;
+    else if (right == QLatin1String(personalNetworkRight))
+        modify = modifyOwnAction;
+    else
         return false;
     GLibLoop loop;
-    for (const char* action : networkActions()) {
+    for (const char* action : {modify, networkControlAction}) {
         auto answer = askPolkit(loop, promptly(), action, false);
         if (answer && !answer->authorized && (flags & interactionAllowed) != 0) {
             answer = askPolkit(loop, QDeadlineTimer(QDeadlineTimer::Forever), action, true);

@@ -2,7 +2,6 @@
 
 #include "platform/linux/PolkitLibrary.h"
 
-#include <array>
 #include <unistd.h>
 
 namespace ardeo
@@ -28,15 +27,6 @@ GRef<PolkitAuthority> authorityFrom(const PolkitLibrary* polkit, GLibLoop& loop,
 }
 
 } // namespace
-
-std::span<const char* const> networkActions()
-{
-    static constexpr std::array actions{
-        "org.freedesktop.NetworkManager.settings.modify.system",
-        "org.freedesktop.NetworkManager.network-control",
-    };
-    return actions;
-}
 
 std::optional<PolkitAnswer> askPolkit(GLibLoop& loop, QDeadlineTimer deadline, const char* action,
                                       bool interaction)

@@ -5,7 +5,6 @@
 #include <QString>
 
 #include <optional>
-#include <span>
 
 namespace ardeo
 {
@@ -20,8 +19,11 @@ struct PolkitAnswer {
     std::optional<QString> temporaryAuthorization;
 };
 
-/// The polkit actions that stand behind changing the network's configuration.
-std::span<const char* const> networkActions();
+// The actions of NetworkManager that changes take: to save a profile of everybody's, or one of the user's
+// own, and to take connections up and down.
+inline constexpr auto modifySystemAction = "org.freedesktop.NetworkManager.settings.modify.system";
+inline constexpr auto modifyOwnAction = "org.freedesktop.NetworkManager.settings.modify.own";
+inline constexpr auto networkControlAction = "org.freedesktop.NetworkManager.network-control";
 
 /// Asks polkit about an action; with interaction it may prompt the user, and takes as long as they do. None
 /// when polkit is not there or does not answer.

@@ -8,6 +8,12 @@ namespace ardeo
 namespace
 {
 
+const QString addressesKey = QStringLiteral("Addresses");
+const QString masksKey = QStringLiteral("SubnetMasks");
+const QString routerKey = QStringLiteral("Router");
+const QString serversKey = QStringLiteral("ServerAddresses");
+const QString domainsKey = QStringLiteral("SearchDomains");
+
 struct AddressList {
     QStringList addresses;
     QStringList masks;
@@ -20,8 +26,8 @@ struct AddressList {
     {
         if (addresses.isEmpty())
             return;
-        dictionary[QStringLiteral("Addresses")] = addresses;
-        dictionary[QStringLiteral("SubnetMasks")] = masks;
+        dictionary[addressesKey] = addresses;
+        dictionary[masksKey] = masks;
     }
 };
 
@@ -50,7 +56,7 @@ Dictionary ipv4DictionaryOf(NMConnection* profile)
         list.append(nm_setting_ip_config_get_address(ipv4, static_cast<int>(i)));
     list.writeTo(dictionary);
     if (const char* gateway = nm_setting_ip_config_get_gateway(ipv4))
-        dictionary[QStringLiteral("Router")] = QString::fromUtf8(gateway);
+        dictionary[routerKey] = QString::fromUtf8(gateway);
     return dictionary;
 }
 
@@ -65,9 +71,9 @@ Dictionary dnsDictionaryOf(NMConnection* profile)
         domains.append(QString::fromUtf8(nm_setting_ip_config_get_dns_search(ipv4, static_cast<int>(i))));
     Dictionary dictionary;
     if (!servers.isEmpty())
-        dictionary[QStringLiteral("ServerAddresses")] = servers;
+        dictionary[serversKey] = servers;
     if (!domains.isEmpty())
-        dictionary[QStringLiteral("SearchDomains")] = domains;
+        dictionary[domainsKey] = domains;
     return dictionary;
 }
 
@@ -82,40 +88,48 @@ std::optional<Dictionary> liveDictionaryOf(NMIPConfig* configuration)
     Dictionary dictionary;
     list.writeTo(dictionary);
     if (const char* gateway = nm_ip_config_get_gateway(configuration))
-        dictionary[QStringLiteral("Router")] = QString::fromUtf8(gateway);
+        dictionary[routerKey] = QString::fromUtf8(gateway);
     return dictionary;
 }
 
-void setIPv4(NMConnection* profile, const IPv4Configuration& configuration)
+void changeIPv4(NMConnection* profile, const IPv4Configuration& configuration, const Dictionary& changes)
 {
     NMSettingIPConfig* ipv4 = ipv4Of(profile);
-    g_object_set(ipv4, NM_SETTING_IP_CONFIG_METHOD,
-                 configuration.manual ? NM_SETTING_IP4_CONFIG_METHOD_MANUAL
-                                      : NM_SETTING_IP4_CONFIG_METHOD_AUTO,
-                 NM_SETTING_IP_CONFIG_GATEWAY, nullptr, nullptr);
-    nm_setting_ip_config_clear_addresses(ipv4);
-    for (const auto& [text, prefix] : configuration.addresses) {
-        NMIPAddress* address =
-            nm_ip_address_new(AF_INET, text.toUtf8().constData(), static_cast<guint>(prefix), nullptr);
-        nm_setting_ip_config_add_address(ipv4, address);
-        nm_ip_address_unref(address);
+    const char* method =
+        configuration.manual ? NM_SETTING_IP4_CONFIG_METHOD_MANUAL : NM_SETTING_IP4_CONFIG_METHOD_AUTO;
+    const bool isOther = QByteArrayView(nm_setting_ip_config_get_method(ipv4)) != method;
+    if (isOther || changes.contains(addressesKey) || changes.contains(masksKey)) {
+        nm_setting_ip_config_clear_addresses(ipv4);
+        for (const auto& [text, prefix] : configuration.addresses) {
+            NMIPAddress* address =
+                nm_ip_address_new(AF_INET, text.toUtf8().constData(), static_cast<guint>(prefix), nullptr);
+            nm_setting_ip_config_add_address(ipv4, address);
+            nm_ip_address_unref(address);
+        }
     }
-    if (configuration.router) {
-        // "never-default" would make NetworkManager drop the gateway that is asked for here, and say nothing.
-        g_object_set(ipv4, NM_SETTING_IP_CONFIG_NEVER_DEFAULT, FALSE, NM_SETTING_IP_CONFIG_GATEWAY,
-                     configuration.router->toUtf8().constData(), nullptr);
+    g_object_set(ipv4, NM_SETTING_IP_CONFIG_METHOD, method, nullptr);
+    if (isOther || changes.contains(routerKey)) {
+        g_object_set(ipv4, NM_SETTING_IP_CONFIG_GATEWAY,
+                     configuration.router ? configuration.router->toUtf8().constData() : nullptr, nullptr);
     }
+    // It would make NetworkManager drop the gateway that is asked for here, and say nothing.
+    if (configuration.router && changes.contains(routerKey))
+        g_object_set(ipv4, NM_SETTING_IP_CONFIG_NEVER_DEFAULT, FALSE, nullptr);
 }
 
-void setDNS(NMConnection* profile, const DNSConfiguration& configuration)
+void changeDNS(NMConnection* profile, const DNSConfiguration& configuration, const Dictionary& changes)
 {
     NMSettingIPConfig* ipv4 = ipv4Of(profile);
+    if (changes.contains(domainsKey)) {
+        nm_setting_ip_config_clear_dns_searches(ipv4);
+        for (const QString& domain : configuration.searchDomains)
+            nm_setting_ip_config_add_dns_search(ipv4, domain.toUtf8().constData());
+    }
+    if (!changes.contains(serversKey))
+        return;
     nm_setting_ip_config_clear_dns(ipv4);
-    nm_setting_ip_config_clear_dns_searches(ipv4);
     for (const QString& server : configuration.serverAddresses)
         nm_setting_ip_config_add_dns(ipv4, server.toUtf8().constData());
-    for (const QString& domain : configuration.searchDomains)
-        nm_setting_ip_config_add_dns_search(ipv4, domain.toUtf8().constData());
 
     const gboolean ownServersOnly = configuration.serverAddresses.isEmpty() ? FALSE : TRUE;
     g_object_set(ipv4, NM_SETTING_IP_CONFIG_IGNORE_AUTO_DNS, ownServersOnly, nullptr);

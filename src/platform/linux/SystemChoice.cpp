@@ -37,10 +37,8 @@ Platform platformFor(SystemChoice choice, const std::optional<QString>& simulate
                                  std::make_unique<BootTimeClock>());
     }
     Platform platform = linuxPlatform(program);
-    if (choice == SystemChoice::automatic) {
-        for (auto* question : {&platform.trouble, &platform.probe})
-            *question = [ask = *question] { return withAdvice(ask()); };
-    }
+    if (choice == SystemChoice::automatic)
+        platform.trouble = [ask = platform.trouble] { return withAdvice(ask()); };
     return platform;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/AdvisoryLock.h"
 #include "platform/ProtocolConfiguration.h"
+#include "platform/ServiceChanges.h"
 
 #include <fcntl.h>
 #include <utility>
@@ -15,12 +16,10 @@ namespace
 /// A service as the handle saw it, and what was set for it since.
 struct ServiceRecord {
     Json seen;
-    std::optional<Dictionary> ipv4;
-    std::optional<Dictionary> dns;
-    std::optional<bool> enabled;
+    ServiceChanges changes = {};
     bool committed = false;
-
-    bool isChanged() const { return ipv4 || dns || enabled; }
+    /// Whether what was committed asks for a lease anew.
+    bool freshLease = false;
 };
 
 /// What a commit must find unchanged; the live state may move on its own.
@@ -55,32 +54,39 @@ private:
 class SimulatedProtocol final : public NetworkProtocol
 {
 public:
-    using Pending = std::optional<Dictionary> ServiceRecord::*;
-    SimulatedProtocol(std::shared_ptr<ServiceRecord> record, const char* type, Pending pending)
+    using Pending = std::optional<Dictionary> ServiceChanges::*;
+    using Differences = Dictionary (*)(const Dictionary& present, const Dictionary& wanted);
+    SimulatedProtocol(std::shared_ptr<ServiceRecord> record, const char* type, Pending pending,
+                      Differences differences)
         : m_record(std::move(record))
         , m_type(type)
         , m_pending(pending)
+        , m_differences(differences)
     {
     }
     std::optional<QVariant> configuration() const override
     {
-        const auto& pending = (*m_record).*m_pending;
-        if (pending)
-            return *pending;
-        const Json* protocols = member(m_record->seen, "protocols");
-        const Json* configuration = protocols ? member(*protocols, m_type) : nullptr;
-        return configuration ? std::optional(valueFromJson(*configuration)) : std::nullopt;
+        const auto& pending = m_record->changes.*m_pending;
+        return pending ? changed(settings()->toMap(), *pending) : settings();
     }
     bool setConfiguration(const Dictionary& configuration) override
     {
-        (*m_record).*m_pending = configuration;
+        return changeConfiguration(m_differences(settings()->toMap(), configuration));
+    }
+    bool changeConfiguration(const Dictionary& changes) override
+    {
+        m_record->changes.*m_pending = changes;
         return true;
     }
 
 private:
+    /// As they are in the file; the service has this protocol.
+    std::optional<QVariant> settings() const { return valueFromJson(m_record->seen["protocols"][m_type]); }
+
     std::shared_ptr<ServiceRecord> m_record;
     const char* m_type;
     Pending m_pending;
+    Differences m_differences;
 };
 
 class SimulatedService final : public NetworkService
@@ -91,11 +97,11 @@ public:
     std::optional<QString> serviceID() const override { return textMember(m_record->seen, "id"); }
     bool isEnabled() const override
     {
-        return m_record->enabled.value_or(flagMember(m_record->seen, "enabled", true));
+        return m_record->changes.enabled.value_or(flagMember(m_record->seen, "enabled", true));
     }
     bool setEnabled(bool enabled) override
     {
-        m_record->enabled = enabled;
+        m_record->changes.enabled = enabled;
         return true;
     }
     std::shared_ptr<NetworkInterface> interface() const override
@@ -108,9 +114,11 @@ public:
         const Json* protocols = member(m_record->seen, "protocols");
         const bool hasIPv4 = protocols && member(*protocols, "IPv4");
         if (type == QStringLiteral("IPv4") && hasIPv4)
-            return std::make_shared<SimulatedProtocol>(m_record, "IPv4", &ServiceRecord::ipv4);
+            return std::make_shared<SimulatedProtocol>(m_record, "IPv4", &ServiceChanges::ipv4,
+                                                       &ipv4Differences);
         if (type == QStringLiteral("DNS") && protocols && member(*protocols, "DNS"))
-            return std::make_shared<SimulatedProtocol>(m_record, "DNS", &ServiceRecord::dns);
+            return std::make_shared<SimulatedProtocol>(m_record, "DNS", &ServiceChanges::dns,
+                                                       &dnsDifferences);
         return nullptr;
     }
 
@@ -138,11 +146,11 @@ class SimulatedPreferences final : public Preferences
 {
 public:
     SimulatedPreferences(const SimulatedMachine& machine, const Json& snapshot, SystemStatus& status,
-                         bool authorized)
+                         bool authorized, const WaitingObserver& waiting)
         : m_machine(machine)
         , m_status(status)
         , m_authorized(authorized)
-        , m_lock(machine.file() + QStringLiteral(".lock"), O_RDWR | O_CREAT | O_NOFOLLOW)
+        , m_lock(machine.file() + QStringLiteral(".lock"), O_RDWR | O_CREAT | O_NOFOLLOW, waiting)
     {
         take(snapshot);
     }
@@ -164,14 +172,12 @@ public:
             return end(SystemStatus::accessError);
         if (m_lock.isTaken())
             return end(SystemStatus::locked);
-        SystemStatus status = m_lock.take(false);
-        if (status == SystemStatus::preferencesBusy && wait) {
-            status = m_lock.take(true);
-            // What the holder before us wrote is what we have to start from.
-            take(m_machine.read().value_or(Json()));
-        }
+        const SystemStatus status = m_lock.take(wait);
         if (status != SystemStatus::ok)
             return end(status);
+        // What the holder before us wrote is what we have to start from.
+        if (m_lock.wasWaitedFor())
+            take(m_machine.read().value_or(Json()));
         const auto machine = m_machine.read();
         if (!machine || !flagMember(*machine, "administrator", true)) {
             m_lock.release();
@@ -183,19 +189,17 @@ public:
     bool commitChanges() override
     {
         return change([](ServiceRecord& record, Json& service) {
-            if (!record.isChanged())
+            const ServiceChanges& changes = record.changes;
+            if (!changes.any())
                 return SystemStatus::ok;
             if (!hasSameSettings(record.seen, service))
                 return SystemStatus::stale;
-            if ((record.ipv4 && !checkedIPv4(*record.ipv4)) || (record.dns && !checkedDNS(*record.dns)))
+            if (!write(changes.ipv4, "IPv4", service) || !write(changes.dns, "DNS", service))
                 return SystemStatus::invalidArgument;
-            if (record.ipv4)
-                service["protocols"]["IPv4"] = normalized(*record.ipv4);
-            if (record.dns)
-                service["protocols"]["DNS"] = normalized(*record.dns);
-            if (record.enabled)
-                service["enabled"] = *record.enabled;
-            record = {.seen = service, .ipv4 = {}, .dns = {}, .enabled = {}, .committed = true};
+            if (changes.enabled)
+                service["enabled"] = *changes.enabled;
+            record = {
+                .seen = service, .changes = {}, .committed = true, .freshLease = changes.asksForLease()};
             return SystemStatus::ok;
         });
     }
@@ -204,7 +208,7 @@ public:
     {
         return change([](ServiceRecord& record, Json& service) {
             if (record.committed)
-                bringUpToDate(service);
+                bringUpToDate(service, record.freshLease);
             return SystemStatus::ok;
         });
     }
@@ -237,6 +241,20 @@ private:
         return status == SystemStatus::ok;
     }
 
+    /// Writes the changes into the service; false when no system can take what comes of them.
+    static bool write(const std::optional<Dictionary>& changes, const char* type, Json& service)
+    {
+        if (!changes || changes->isEmpty())
+            return true;
+        Json& settings = service["protocols"][type];
+        const Dictionary wanted = changed(valueFromJson(settings).toMap(), *changes);
+        const bool isDNS = std::string_view(type) == "DNS";
+        if (isDNS ? !checkedDNS(wanted) : !checkedIPv4(wanted))
+            return false;
+        settings = normalized(wanted);
+        return true;
+    }
+
     /// What the system makes of checked settings: texts that count as absent are not stored.
     static Json normalized(Dictionary dictionary)
     {
@@ -262,7 +280,7 @@ private:
             return end(SystemStatus::noStoreServer);
         for (const auto& record : m_records.value_or(std::vector<std::shared_ptr<ServiceRecord>>())) {
             Json* service = find(*machine, record->seen);
-            if (!service && record->isChanged())
+            if (!service && record->changes.any())
                 return end(SystemStatus::noKey);
             const SystemStatus status = service ? step(*record, *service) : SystemStatus::ok;
             if (status != SystemStatus::ok)
@@ -358,7 +376,8 @@ std::unique_ptr<Preferences> SimulatedConfiguration::open(bool authorized)
     const auto machine = read();
     if (!machine)
         return nullptr;
-    return std::make_unique<SimulatedPreferences>(m_machine, *machine, m_status, authorized);
+    return std::make_unique<SimulatedPreferences>(m_machine, *machine, m_status, authorized,
+                                                  waitingObserver());
 }
 
 std::unique_ptr<Preferences> SimulatedConfiguration::createPreferences(const QString& /*name*/)

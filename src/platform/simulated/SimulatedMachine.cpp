@@ -162,8 +162,9 @@ Json jsonFromDictionary(const Dictionary& dictionary)
     return json;
 }
 
-void bringUpToDate(Json& service)
+void bringUpToDate(Json& service, bool freshLease)
 {
+    const Json held = service.value("live", Json());
     service.erase("live");
     const Json* link = member(service, "link");
     const Json* protocols = member(service, "protocols");
@@ -180,6 +181,8 @@ void bringUpToDate(Json& service)
         if (!settings->router)
             live.remove(key("Router"));
         service["live"] = jsonFromDictionary(live);
+    } else if (!held.is_null() && !freshLease) {
+        service["live"] = held;
     } else if (service.contains("network")) {
         if (auto lease = nextLease(service["network"]))
             service["live"] = std::move(*lease);
@@ -194,7 +197,7 @@ void SimulatedMachine::seed() const
         return;
     Json machine = Json::parse(seedText);
     for (Json& service : machine["services"])
-        bringUpToDate(service);
+        bringUpToDate(service, true);
     QDir().mkpath(QFileInfo(m_file).path());
     write(machine);
 }

@@ -38,7 +38,8 @@ QVariant valueFromJson(const Json& json);
 Json jsonFromDictionary(const Dictionary& dictionary);
 
 /// Makes the live state of a service follow its saved settings, as a machine would: DHCP takes the next lease
-/// of its network, manual settings are what they say, and without a link or when disabled there is nothing.
-void bringUpToDate(Json& service);
+/// of its network unless it holds one and no fresh one is asked for, manual settings are what they say, and
+/// without a link or when disabled there is nothing.
+void bringUpToDate(Json& service, bool freshLease);
 
 } // namespace ardeo

@@ -25,7 +25,7 @@ public:
     bool copyRights(AuthorizationRef, const QString& right, quint32) override
     {
         const auto machine = m_machine.read();
-        return right == QStringLiteral("system.preferences.network") && machine &&
+        return right == QLatin1String(systemNetworkRight) && machine &&
                flagMember(*machine, "administrator", true);
     }
     void free(AuthorizationRef, quint32) override {}
