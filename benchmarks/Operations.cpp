@@ -8,7 +8,7 @@
 #include "backend/AuthorizationService.h"
 #include "backend/Errors.h"
 #include "backend/NetworkConfigService.h"
-#include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/program/LinuxPlatform.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 #include "SampleProfiles.h"
 #include "model/MainViewModel.h"
 #include "platform/FileUserDefaults.h"
-#include "platform/linux/BootTimeClock.h"
+#include "platform/linux/program/BootTimeClock.h"
 #include "platform/simulated/SimulatedPlatform.h"
 
 #include <QTemporaryDir>

@@ -18,11 +18,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The first three are loaded at run time, so that nothing tells of them: by Qt two, without the first of which no
-# window opens at all, and by us polkit's library, without which nothing can be changed.
-# The packed relocations need a C library of that age.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS
-    "qt6-qpa-plugins, hicolor-icon-theme, libpolkit-gobject-1-0 (>= 0.99), libc6 (>= 2.36)")
+# Qt loads both at run time, so that nothing tells of them; without the first no window opens at all.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, hicolor-icon-theme")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "network-manager, polkitd, qt6-wayland")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/finish.cmake)

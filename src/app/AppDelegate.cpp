@@ -1,7 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "app/Notice.h"
-#include "platform/linux/X11Desktop.h"
+#include "platform/linux/desktop/X11Desktop.h"
 
 #include <QApplication>
 #include <QBackingStore>

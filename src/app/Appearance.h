@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/DesktopAppearance.h"
+#include "platform/linux/desktop/DesktopAppearance.h"
 #include "ui/NeuralNetworkFrame.h"
 
 namespace ardeo

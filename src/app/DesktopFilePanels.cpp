@@ -1,6 +1,6 @@
 #include "app/DesktopFilePanels.h"
 
-#include "platform/linux/FileChooserPortal.h"
+#include "platform/linux/desktop/FileChooserPortal.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,6 +1,6 @@
 #include "app/MenuBarExtra.h"
 
-#include "platform/linux/X11Desktop.h"
+#include "platform/linux/desktop/X11Desktop.h"
 #include "ui/Symbol.h"
 
 #include <QCursor>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/MenuBarMenuView.h"
-#include "platform/linux/StatusArea.h"
+#include "platform/linux/desktop/StatusArea.h"
 
 #include <QSystemTrayIcon>
 

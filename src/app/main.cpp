@@ -2,9 +2,9 @@
 #include "app/Ardeo_IPConfigApp.h"
 #include "app/DesktopFilePanels.h"
 #include "app/MenuBarExtra.h"
-#include "platform/linux/DesktopApplication.h"
-#include "platform/linux/DesktopWorkspace.h"
-#include "platform/linux/SystemChoice.h"
+#include "platform/linux/desktop/DesktopApplication.h"
+#include "platform/linux/desktop/DesktopWorkspace.h"
+#include "platform/linux/program/SystemChoice.h"
 #include "ui/Symbol.h"
 
 #include <QApplication>

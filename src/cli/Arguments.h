@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/SystemChoice.h"
+#include "platform/linux/program/SystemChoice.h"
 
 #include <QStringList>
 

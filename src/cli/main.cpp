@@ -1,6 +1,6 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
-#include "platform/linux/SystemChoice.h"
+#include "platform/linux/program/SystemChoice.h"
 
 #include <QCoreApplication>
 

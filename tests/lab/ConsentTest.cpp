@@ -1,5 +1,5 @@
 #include "model/MainViewModel.h"
-#include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/program/LinuxPlatform.h"
 
 #include <QFile>
 #include <QTest>

@@ -1,5 +1,5 @@
-#include "platform/linux/BootTimeClock.h"
-#include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/program/BootTimeClock.h"
+#include "platform/linux/program/LinuxPlatform.h"
 #include "platform/simulated/SimulatedPlatform.h"
 
 #include <QProcess>

@@ -2,8 +2,8 @@
 #include "platform/FileUserDefaults.h"
 #include "platform/ProtocolConfiguration.h"
 #include "platform/ServiceChanges.h"
-#include "platform/linux/BootTimeClock.h"
-#include "platform/linux/XdgLoginItem.h"
+#include "platform/linux/program/BootTimeClock.h"
+#include "platform/linux/program/XdgLoginItem.h"
 #include "platform/simulated/SimulatedPlatform.h"
 
 #include <QJsonDocument>

@@ -4,7 +4,7 @@
 
 #include "app/Ardeo_IPConfigApp.h"
 #include "app/MenuBarMenuView.h"
-#include "platform/linux/DesktopWorkspace.h"
+#include "platform/linux/desktop/DesktopWorkspace.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "ui/IPAddressField.h"
 #include "ui/PresetList.h"

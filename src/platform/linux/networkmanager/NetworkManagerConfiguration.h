@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/linux/networkmanager/NetworkManagerSession.h"
+
+#include <memory>
+
+namespace ardeo
+{
+
+/// The network configuration as NetworkManager keeps it: its connection profiles are the services.
+class NetworkManagerConfiguration final : public SystemConfiguration
+{
+public:
+    std::unique_ptr<Preferences> createPreferences(const QString& name) override;
+    std::unique_ptr<Preferences> createPreferencesWithAuthorization(const QString& name,
+                                                                    AuthorizationRef authorization) override;
+    std::unique_ptr<DynamicStore> createDynamicStore(const QString& name) override;
+    void rest() override { m_kept.reset(); }
+    qint32 error() const override { return static_cast<qint32>(m_status); }
+
+    /// How the daemon was found the last time. May be called from any thread.
+    DaemonPresence presence() const { return m_presence; }
+
+private:
+    /// Handles that live at the same time belong to one operation and share its snapshot.
+    std::shared_ptr<NetworkManagerSession> session();
+
+    SystemBus m_bus;
+    std::unique_ptr<DaemonView> m_kept;
+    std::weak_ptr<NetworkManagerSession> m_session;
+    std::atomic<DaemonPresence> m_presence = DaemonPresence::answers;
+    SystemStatus m_status = SystemStatus::ok;
+};
+
+} // namespace ardeo

@@ -1,0 +1,280 @@
+#include "platform/linux/networkmanager/NetworkManagerPreferences.h"
+
+#include "platform/linux/networkmanager/NetworkManagerActivation.h"
+#include "platform/linux/networkmanager/NetworkManagerError.h"
+#include "platform/linux/networkmanager/NetworkManagerServices.h"
+#include "platform/linux/networkmanager/PolkitRights.h"
+#include "platform/linux/networkmanager/ProfileTranslation.h"
+
+#include <QElapsedTimer>
+
+#include <fcntl.h>
+#include <utility>
+
+namespace ardeo
+{
+
+namespace
+{
+
+/// The daemon's runtime folder: it is there when the daemon is, everybody may open it for reading, and a lock
+/// on it vanishes with its holder, however that one ends.
+constexpr auto lockFolder = "/run/NetworkManager";
+
+/// Writes the changes into the profile; false when it cannot be taken.
+bool translate(const ServiceChanges& changes, NMConnection* profile)
+{
+    if (changes.ipv4 && !changes.ipv4->isEmpty()) {
+        const auto checked = checkedIPv4(changed(ipv4DictionaryOf(profile), *changes.ipv4));
+        if (!checked)
+            return false;
+        changeIPv4(profile, *checked, *changes.ipv4);
+    }
+    if (changes.dns) {
+        const auto checked = checkedDNS(*changes.dns);
+        if (!checked)
+            return false;
+        changeDNS(profile, *checked, *changes.dns);
+    }
+    if (changes.enabled) {
+        g_object_set(nm_connection_get_setting_connection(profile), NM_SETTING_CONNECTION_AUTOCONNECT,
+                     *changes.enabled ? TRUE : FALSE, nullptr);
+    }
+    return nm_connection_normalize(profile, nullptr, nullptr, nullptr) != FALSE;
+}
+
+bool isAutoconnected(NMConnection* profile)
+{
+    return nm_setting_connection_get_autoconnect(nm_connection_get_setting_connection(profile)) != FALSE;
+}
+
+/// Whether the profile's network is there; that of anything but Wi-Fi is where its device is ready.
+bool isInReach(NMDevice* device, NMRemoteConnection* connection)
+{
+    const GPtrArray* available = nm_device_get_available_connections(device);
+    return !NM_IS_DEVICE_WIFI(device) ||
+           g_ptr_array_find(const_cast<GPtrArray*>(available), connection, nullptr);
+}
+
+/// Reads a profile from the daemon, not from the snapshot; null with the error when that fails.
+GRef<NMConnection> readAnew(NetworkManagerSession& session, NMRemoteConnection* connection, GLibError& error)
+{
+    GDBusConnection* bus = nm_client_get_dbus_connection(session.client());
+    const auto ended = session.loop().call(
+        session.deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+            g_dbus_connection_call(bus, NM_DBUS_SERVICE, nm_connection_get_path(NM_CONNECTION(connection)),
+                                   NM_DBUS_INTERFACE_SETTINGS_CONNECTION, "GetSettings", nullptr,
+                                   G_VARIANT_TYPE("(a{sa{sv}})"), G_DBUS_CALL_FLAGS_NO_AUTO_START, -1,
+                                   cancellable, done, data);
+        });
+    const GVariantRef answer(g_dbus_connection_call_finish(bus, ended.get(), error.out()));
+    if (!answer)
+        return nullptr;
+    const GVariantRef settings(g_variant_get_child_value(answer.get(), 0));
+    return GRef<NMConnection>(nm_simple_connection_new_from_dbus(settings.get(), error.out()));
+}
+
+} // namespace
+
+NetworkManagerPreferences::NetworkManagerPreferences(std::shared_ptr<NetworkManagerSession> session,
+                                                     SystemStatus& status, bool authorized,
+                                                     const WaitingObserver& waiting)
+    : m_session(std::move(session))
+    , m_status(status)
+    , m_authorized(authorized)
+    , m_lock(QLatin1String(lockFolder), O_RDONLY | O_DIRECTORY, waiting)
+{
+}
+
+bool NetworkManagerPreferences::end(SystemStatus status)
+{
+    m_status = status;
+    return status == SystemStatus::ok;
+}
+
+std::shared_ptr<NetworkSet> NetworkManagerPreferences::currentSet()
+{
+    m_status = SystemStatus::ok;
+    if (!m_profilesListed) {
+        m_profiles = listProfiles(m_session->client());
+        m_profilesListed = true;
+    }
+    return networkSetOf(m_session, m_profiles);
+}
+
+bool NetworkManagerPreferences::lock(bool wait)
+{
+    if (!m_authorized)
+        return end(SystemStatus::accessError);
+    if (m_lock.isTaken())
+        return end(SystemStatus::locked);
+    SystemStatus status = takeFileLock(wait);
+    if (status == SystemStatus::ok)
+        status = checkRights();
+    if (status != SystemStatus::ok)
+        unlock();
+    return end(status);
+}
+
+SystemStatus NetworkManagerPreferences::takeFileLock(bool wait)
+{
+    QElapsedTimer waiting;
+    waiting.start();
+    const SystemStatus status = m_lock.take(wait);
+    if (status != SystemStatus::ok || !m_lock.wasWaitedFor())
+        return status;
+    m_session->extendDeadline(waiting.elapsed());
+    // What the holder before us wrote is what we have to start from.
+    m_profilesListed = false;
+    return m_session->reconnect() ? SystemStatus::ok : SystemStatus::noStoreServer;
+}
+
+SystemStatus NetworkManagerPreferences::checkRights()
+{
+    m_hasPersonalProfiles = hasPersonalProfiles(m_session->client());
+    const SystemStatus status = checkRight(networkControlAction);
+    return status != SystemStatus::ok || m_hasPersonalProfiles ? status : checkRight(modifySystemAction);
+}
+
+SystemStatus NetworkManagerPreferences::checkRight(const char* action)
+{
+    const auto answer = askPolkit(m_session->loop(), m_session->deadline(), action, false);
+    // A consent that lapsed is refused here, so that the next action prompts and not the daemon in the
+    // middle of this one. One that polkit never keeps can only be asked for by the daemon itself.
+    if (!answer || (!answer->authorized && answer->keepsConsent))
+        return SystemStatus::accessError;
+    if (!answer->authorized)
+        m_session->removeDeadline();
+    return SystemStatus::ok;
+}
+
+bool NetworkManagerPreferences::unlock()
+{
+    if (!m_lock.isTaken())
+        return end(SystemStatus::needLock);
+    m_lock.release();
+    return end(SystemStatus::ok);
+}
+
+bool NetworkManagerPreferences::commitChanges()
+{
+    if (!m_lock.isTaken())
+        return end(SystemStatus::needLock);
+    for (const auto& profile : m_profiles) {
+        if (!profile->seen)
+            continue;
+        const SystemStatus status = commit(*profile);
+        if (status != SystemStatus::ok)
+            return end(status);
+    }
+    return end(SystemStatus::ok);
+}
+
+SystemStatus NetworkManagerPreferences::commit(Profile& profile)
+{
+    if (m_hasPersonalProfiles) {
+        const bool isOwn = isPersonal(NM_CONNECTION(profile.connection.get()));
+        const SystemStatus status = checkRight(isOwn ? modifyOwnAction : modifySystemAction);
+        if (status != SystemStatus::ok)
+            return status;
+    }
+    GLibError error;
+    GRef<NMConnection> changed = readAnew(*m_session, profile.connection.get(), error);
+    if (!changed)
+        return statusOf(error);
+    constexpr auto ignored = static_cast<NMSettingCompareFlags>(NM_SETTING_COMPARE_FLAG_IGNORE_SECRETS |
+                                                                NM_SETTING_COMPARE_FLAG_IGNORE_TIMESTAMP);
+    if (!nm_connection_compare(changed.get(), profile.seen.get(), ignored))
+        return SystemStatus::stale;
+    if (!translate(profile.changes, changed.get()))
+        return SystemStatus::invalidArgument;
+
+    // To disk, also if the daemon made the profile up. Secrets are not among what was read, and an update
+    // without any leaves them as they are. The daemon may connect a profile that was just enabled before
+    // apply does, with the same settings; keeping it from that would keep it from connecting when the cable
+    // comes back, too.
+    constexpr auto flags = NM_SETTINGS_UPDATE2_FLAG_TO_DISK;
+    const auto ended = m_session->loop().call(
+        m_session->deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+            nm_remote_connection_update2(profile.connection.get(),
+                                         nm_connection_to_dbus(changed.get(), NM_CONNECTION_SERIALIZE_ALL),
+                                         flags, nullptr, cancellable, done, data);
+        });
+    const GVariantRef updated(
+        nm_remote_connection_update2_finish(profile.connection.get(), ended.get(), error.out()));
+    if (!updated)
+        return statusOf(error);
+    profile.seen.reset();
+    profile.committed = std::move(changed);
+    return SystemStatus::ok;
+}
+
+bool NetworkManagerPreferences::applyChanges()
+{
+    if (!m_lock.isTaken())
+        return end(SystemStatus::needLock);
+    for (const auto& profile : m_profiles) {
+        if (!profile->committed)
+            continue;
+        const SystemStatus status = apply(*profile);
+        if (status != SystemStatus::ok)
+            return end(status);
+    }
+    return end(SystemStatus::ok);
+}
+
+SystemStatus NetworkManagerPreferences::apply(const Profile& profile)
+{
+    NMClient* client = m_session->client();
+    if (!nm_client_get_nm_running(client))
+        return SystemStatus::noStoreServer;
+    // The daemon may go away while it is asked, and its objects with it.
+    std::vector<GRef<NMActiveConnection>> actives;
+    for (NMActiveConnection* active : activationsOf(client, profile.connection.get()))
+        actives.push_back(newRef(active));
+    return actives.empty() ? applyToInactive(profile) : applyToActive(profile, actives);
+}
+
+SystemStatus NetworkManagerPreferences::applyToActive(const Profile& profile,
+                                                      const std::vector<GRef<NMActiveConnection>>& actives)
+{
+    NetworkManagerActivation activation(*m_session, profile.connection.get(), profile.committed.get());
+    for (const auto& active : actives) {
+        const GRef<NMDevice> device = newRef(deviceOf(active.get()));
+        const SystemStatus status =
+            profile.changes.enabled == false
+                ? activation.takeDown(active.get())
+                : activation.renew(active.get(), device.get(), profile.changes.asksForLease());
+        if (status != SystemStatus::ok)
+            return status;
+    }
+    return SystemStatus::ok;
+}
+
+SystemStatus NetworkManagerPreferences::applyToInactive(const Profile& profile)
+{
+    NMRemoteConnection* connection = profile.connection.get();
+    const bool enabling = profile.changes.enabled == true;
+    if (!isAutoconnected(profile.committed.get()))
+        return SystemStatus::ok;
+    NetworkManagerActivation activation(*m_session, connection, profile.committed.get());
+    const GRef<NMDevice> device = newRef(deviceOf(m_session->client(), connection));
+    if (!device) {
+        // A bridge, for example, has its device only while it is up; hardware that is not there is another
+        // matter.
+        const bool isVPN =
+            nm_connection_is_type(NM_CONNECTION(connection), NM_SETTING_VPN_SETTING_NAME) != FALSE;
+        const bool makesItsDevice = nm_connection_is_virtual(NM_CONNECTION(connection)) != FALSE;
+        return makesItsDevice || (isVPN && enabling) ? activation.takeUp(nullptr) : SystemStatus::ok;
+    }
+    // What cannot be taken up now, the daemon takes up by itself, as it was saved, when a cable or a network
+    // is there.
+    const Readiness readiness = readinessOf(device.get());
+    if (readiness == Readiness::unready || (readiness == Readiness::held && !enabling))
+        return SystemStatus::ok;
+    if (isInReach(device.get(), connection))
+        return activation.takeUp(device.get());
+    return enabling ? activation.beginToTakeUp(device.get()) : SystemStatus::ok;
+}
+
+} // namespace ardeo
