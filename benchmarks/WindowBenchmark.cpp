@@ -3,8 +3,8 @@
 #include "platform/linux/program/BootTimeClock.h"
 #include "platform/linux/desktop/DesktopWorkspace.h"
 #include "platform/simulated/SimulatedPlatform.h"
-#include "ui/IPAddressField.h"
-#include "ui/PresetList.h"
+#include "ui/elements/IPAddressField.h"
+#include "ui/panels/PresetList.h"
 
 #include <QTemporaryDir>
 #include <QTest>

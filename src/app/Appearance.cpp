@@ -1,6 +1,6 @@
 #include "app/Appearance.h"
 
-#include "ui/Style.h"
+#include "ui/elements/Style.h"
 
 #include <QApplication>
 #include <QEvent>

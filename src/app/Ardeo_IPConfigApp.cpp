@@ -3,9 +3,9 @@
 #include "app/MainMenu.h"
 #include "app/Notice.h"
 #include "app/WindowHider.h"
-#include "ui/ContentView.h"
-#include "ui/HelpView.h"
-#include "ui/ShortcutsView.h"
+#include "ui/windows/ContentView.h"
+#include "ui/windows/HelpView.h"
+#include "ui/windows/ShortcutsView.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,8 +1,8 @@
 #include "app/MainMenu.h"
 
 #include "app/SystemTools.h"
-#include "ui/Binding.h"
-#include "ui/ContentView.h"
+#include "ui/elements/Binding.h"
+#include "ui/windows/ContentView.h"
 
 #include <QApplication>
 

@@ -1,7 +1,7 @@
 #include "app/MenuBarExtra.h"
 
 #include "platform/linux/desktop/X11Desktop.h"
-#include "ui/Symbol.h"
+#include "ui/elements/Symbol.h"
 
 #include <QCursor>
 #include <QGuiApplication>

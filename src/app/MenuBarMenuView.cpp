@@ -2,9 +2,9 @@
 
 #include "app/MainMenu.h"
 #include "app/SystemTools.h"
-#include "ui/Binding.h"
-#include "ui/ContentView.h"
-#include "ui/TextLabel.h"
+#include "ui/elements/Binding.h"
+#include "ui/elements/TextLabel.h"
+#include "ui/windows/ContentView.h"
 
 #include <QApplication>
 #include <QCoroFuture>

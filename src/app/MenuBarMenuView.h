@@ -3,7 +3,7 @@
 #include "app/AppDelegate.h"
 #include "model/MainViewModel.h"
 #include "platform/NotificationCenter.h"
-#include "ui/Style.h"
+#include "ui/elements/Style.h"
 
 #include <QMenu>
 

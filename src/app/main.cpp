@@ -5,7 +5,7 @@
 #include "platform/linux/desktop/DesktopApplication.h"
 #include "platform/linux/desktop/DesktopWorkspace.h"
 #include "platform/linux/program/SystemChoice.h"
-#include "ui/Symbol.h"
+#include "ui/elements/Symbol.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -1,8 +1,8 @@
 #include "ui/BackgroundPage.h"
 
-#include "ui/CardScrollArea.h"
 #include "ui/MaterialPanel.h"
-#include "ui/PushButton.h"
+#include "ui/elements/CardScrollArea.h"
+#include "ui/elements/PushButton.h"
 
 #include <QVBoxLayout>
 

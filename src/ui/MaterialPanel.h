@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/NeuralNetworkBackground.h"
-#include "ui/Style.h"
+#include "ui/elements/Style.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #include "ui/NeuralNetworkBackground.h"
 
-#include "ui/Style.h"
+#include "ui/elements/Style.h"
 
 #include <QEvent>
 #include <QPaintEvent>

@@ -4,7 +4,7 @@
 #include "fakes/FakeSystemConfiguration.h"
 #include "platform/ProtocolConfiguration.h"
 #include "platform/simulated/SimulatedConfiguration.h"
-#include "ui/IPAddressField.h"
+#include "ui/elements/IPAddressField.h"
 
 #include <QApplication>
 #include <QDirIterator>

@@ -2,15 +2,15 @@
 #include "app/MenuBarMenuView.h"
 #include "fakes/Fakes.h"
 #include "platform/simulated/SimulatedPlatform.h"
-#include "ui/ContentView.h"
-#include "ui/Controls.h"
-#include "ui/HelpView.h"
-#include "ui/IPAddressField.h"
-#include "ui/LeftPanel.h"
 #include "ui/NeuralNetworkBackground.h"
-#include "ui/PresetList.h"
-#include "ui/ProfileNameSheet.h"
-#include "ui/ShortcutsView.h"
+#include "ui/elements/Controls.h"
+#include "ui/elements/IPAddressField.h"
+#include "ui/panels/AdapterSection.h"
+#include "ui/panels/PresetList.h"
+#include "ui/sheets/ProfileNameSheet.h"
+#include "ui/windows/ContentView.h"
+#include "ui/windows/HelpView.h"
+#include "ui/windows/ShortcutsView.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -6,10 +6,10 @@
 #include "app/MenuBarMenuView.h"
 #include "platform/linux/desktop/DesktopWorkspace.h"
 #include "platform/simulated/SimulatedPlatform.h"
-#include "ui/IPAddressField.h"
-#include "ui/PresetList.h"
-#include "ui/PushButton.h"
-#include "ui/Symbol.h"
+#include "ui/elements/IPAddressField.h"
+#include "ui/elements/PushButton.h"
+#include "ui/elements/Symbol.h"
+#include "ui/panels/PresetList.h"
 
 #include <QApplication>
 #include <QComboBox>

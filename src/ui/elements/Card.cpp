@@ -1,0 +1,34 @@
+#include "ui/elements/Card.h"
+
+#include "ui/elements/Controls.h"
+#include "ui/elements/Stack.h"
+#include "ui/elements/TextLabel.h"
+
+namespace ardeo
+{
+
+namespace
+{
+
+constexpr double radius = 14;
+
+} // namespace
+
+Card::Card(const QString& title, const QString& systemImage, QWidget* trailingView, QWidget* content,
+           QWidget* parent)
+    : MaterialPanel(
+          radius, [](const Colours& colours) { return look::withOpacity(colours.primary, 0.1); }, parent)
+{
+    setAccessibleName(title);
+    auto* stack = columnIn(this, 12, {16, 16, 16, 16});
+    auto* header = rowIn(stack, 4);
+    header->addWidget(
+        new SymbolView(systemImage, 16, [](const Colours& colours) { return colours.primary; }));
+    header->addWidget(new TextLabel(title, look::font(TextStyle::headline), Emphasis::primary));
+    header->addStretch();
+    if (trailingView)
+        header->addWidget(trailingView);
+    stack->addWidget(content);
+}
+
+} // namespace ardeo

@@ -1,0 +1,36 @@
+#include "ui/elements/CardScrollArea.h"
+
+#include <QAccessibleWidget>
+
+namespace ardeo
+{
+
+namespace
+{
+
+/// Qt's own accessible scroll area reads past the end of its children when assistive technology asks for one
+/// that has just been hidden; the plain accessible widget checks.
+QAccessibleInterface* makeAccessible(const QString& className, QObject* object)
+{
+    if (className != QLatin1String(CardScrollArea::staticMetaObject.className()))
+        return nullptr;
+    return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Pane);
+}
+
+} // namespace
+
+CardScrollArea::CardScrollArea(QWidget* content, QWidget* parent) : QScrollArea(parent)
+{
+    QAccessible::installFactory(makeAccessible);
+    setFrameShape(NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // The bar has its place whether it is needed or not, so that nothing moves aside for it.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setWidget(content);
+    for (QWidget* clear : {viewport(), content, static_cast<QWidget*>(this)})
+        clear->setAutoFillBackground(false);
+}
+
+} // namespace ardeo

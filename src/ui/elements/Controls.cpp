@@ -1,0 +1,186 @@
+#include "ui/elements/Controls.h"
+
+#include "ui/elements/Symbol.h"
+
+#include <QAbstractItemView>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace ardeo
+{
+
+namespace
+{
+
+constexpr int indicator = 16;
+
+} // namespace
+
+RadioButton::RadioButton(const QString& text, QWidget* parent) : QRadioButton(text, parent)
+{
+    setFont(look::font(TextStyle::body));
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+}
+
+QSize RadioButton::sizeHint() const
+{
+    return {indicator + 4 + fontMetrics().horizontalAdvance(text()) + 4,
+            std::max(20, fontMetrics().height())};
+}
+
+bool RadioButton::hitButton(const QPoint& position) const
+{
+    return rect().contains(position);
+}
+
+void RadioButton::paintEvent(QPaintEvent*)
+{
+    const Colours& colours = look::colours(this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF circle =
+        look::deviceAligned(this, QRectF(0, (height() - indicator) / 2.0, indicator, indicator));
+    if (isChecked()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(colours.accent);
+        painter.drawEllipse(circle);
+        painter.setBrush(Qt::white);
+        painter.drawEllipse(circle.center(), 3, 3);
+    } else {
+        painter.setPen(QPen(colours.tertiary, 1));
+        painter.setBrush(isDown()       ? colours.controlPressed
+                         : underMouse() ? colours.controlHovered
+                                        : colours.control);
+        painter.drawEllipse(circle.adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+    const QRectF label = QRectF(rect()).adjusted(indicator + 4, 0, 0, 0);
+    if (hasFocus()) { // a ring in the circle, and a line below the text
+        painter.setPen(QPen(colours.teal, 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(circle.adjusted(1, 1, -1, -1));
+        painter.fillRect(QRectF(label.left(), height() - 2, label.width() - 4, 1.5), colours.teal);
+    }
+    painter.setPen(isEnabled() ? colours.primary : colours.tertiary);
+    painter.setFont(font());
+    painter.drawText(label, Qt::AlignVCenter | Qt::AlignLeft, text());
+}
+
+PopUpButton::PopUpButton(QWidget* parent) : QComboBox(parent)
+{
+    setFont(look::font(TextStyle::body));
+    setAttribute(Qt::WA_Hover);
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    view()->setTextElideMode(Qt::ElideMiddle);
+}
+
+QSize PopUpButton::sizeHint() const
+{
+    return {160, 28};
+}
+
+QSize PopUpButton::minimumSizeHint() const
+{
+    return {80, 28};
+}
+
+void PopUpButton::wheelEvent(QWheelEvent* event)
+{
+    // Scrolling past must not change what is selected.
+    event->ignore();
+}
+
+void PopUpButton::paintEvent(QPaintEvent*)
+{
+    const Colours& colours = look::colours(this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF area = look::deviceAligned(this, rect());
+    painter.fillPath(look::continuousRect(area, 6), underMouse() ? colours.controlHovered : colours.control);
+    look::strokeInside(painter, area, 6, hasFocus() ? colours.teal : colours.separator, hasFocus() ? 2 : 1);
+    drawSymbol(painter, QRectF(width() - 22, (height() - 16) / 2.0, 16, 16),
+               QStringLiteral("chevron.up.chevron.down"), colours.secondary);
+    painter.setPen(colours.primary);
+    painter.setFont(font());
+    const QRect label = rect().adjusted(10, 0, -26, 0);
+    painter.drawText(label, Qt::AlignVCenter | Qt::AlignLeft,
+                     fontMetrics().elidedText(currentText(), Qt::ElideMiddle, label.width()));
+}
+
+TextField::TextField(QWidget* parent) : QLineEdit(parent)
+{
+    setFont(look::font(TextStyle::body));
+    setFrame(false);
+    setFixedHeight(28);
+    setTextMargins(6, 0, 6, 0);
+    QPalette own;
+    own.setColor(QPalette::Base, Qt::transparent);
+    setPalette(own);
+}
+
+void TextField::paintEvent(QPaintEvent* event)
+{
+    const Colours& colours = look::colours(this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF area = look::deviceAligned(this, rect());
+    painter.fillPath(look::continuousRect(area, 6), colours.textBackground);
+    look::strokeInside(painter, area, 6, hasFocus() ? colours.teal : colours.separator, hasFocus() ? 2 : 1);
+    painter.end();
+    QLineEdit::paintEvent(event);
+}
+
+Badge::Badge(const QString& symbol, QWidget* parent) : QWidget(parent), m_symbol(symbol)
+{
+    setFont(look::monospacedFont(TextStyle::caption2));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void Badge::setText(const QString& text)
+{
+    m_text = text;
+    setAccessibleName(text);
+    updateGeometry();
+    update();
+}
+
+QSize Badge::sizeHint() const
+{
+    return {5 + 12 + 4 + fontMetrics().horizontalAdvance(m_text) + 5,
+            2 + std::max(12, fontMetrics().height()) + 2};
+}
+
+void Badge::paintEvent(QPaintEvent*)
+{
+    const QColor teal = look::colours(this).teal;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(look::continuousRect(look::deviceAligned(this, rect()), 4),
+                     look::withOpacity(teal, 0.1));
+    drawSymbol(painter, QRectF(5, (height() - 12) / 2.0, 12, 12), m_symbol, teal);
+    painter.setPen(teal);
+    painter.setFont(font());
+    painter.drawText(QRectF(rect()).adjusted(21, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, m_text);
+}
+
+SymbolView::SymbolView(const QString& symbol, int size, std::function<QColor(const Colours&)> colour,
+                       QWidget* parent)
+    : QWidget(parent)
+    , m_symbol(symbol)
+    , m_colour(std::move(colour))
+{
+    setFixedSize(size, size);
+}
+
+void SymbolView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const int side = std::min(width(), height());
+    drawSymbol(painter, QRectF((width() - side) / 2.0, (height() - side) / 2.0, side, side), m_symbol,
+               m_colour(look::colours(this)));
+}
+
+} // namespace ardeo

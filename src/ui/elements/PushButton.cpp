@@ -1,0 +1,141 @@
+#include "ui/elements/PushButton.h"
+
+#include "ui/elements/Spinner.h"
+#include "ui/elements/Symbol.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace ardeo
+{
+
+namespace
+{
+
+constexpr int symbolGap = 5;
+
+} // namespace
+
+PushButton::PushButton(const QString& text, const QString& symbol, Kind kind, QWidget* parent)
+    : QPushButton(text, parent)
+    , m_symbol(symbol)
+    , m_kind(kind)
+{
+    setFont(look::font(TextStyle::body));
+    setAttribute(Qt::WA_Hover);
+    setAutoDefault(false);
+}
+
+void PushButton::setTint(Tint tint)
+{
+    m_tint = tint;
+    update();
+}
+
+void PushButton::setControlSize(Size size)
+{
+    m_size = size;
+    updateGeometry();
+}
+
+void PushButton::setSymbol(const QString& symbol)
+{
+    m_symbol = symbol;
+    updateGeometry();
+    update();
+}
+
+void PushButton::setSpinning(bool spinning, double scale)
+{
+    delete m_spinner;
+    m_spinner = spinning ? new Spinner(scale, this) : nullptr;
+    if (m_spinner) {
+        m_spinner->setColour(m_kind == Kind::prominent ? Qt::white : QColor());
+        m_spinner->show();
+    }
+    updateGeometry();
+    resizeEvent(nullptr);
+    update();
+}
+
+QSize PushButton::sizeHint() const
+{
+    const bool large = m_size == Size::large;
+    const int glyph = m_symbol.isEmpty() && !m_spinner ? 0 : 16;
+    const int gap = glyph > 0 && !text().isEmpty() ? symbolGap : 0;
+    const int padding = m_kind == Kind::plain ? 0 : text().isEmpty() ? 7 : large ? 14 : 10;
+    const int width = glyph + gap + fontMetrics().horizontalAdvance(text()) + 2 * padding;
+    const int height = m_kind == Kind::plain ? 16 : large ? 32 : 26;
+    return {width, height};
+}
+
+QSize PushButton::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+QRectF PushButton::symbolRect() const
+{
+    const int textWidth = text().isEmpty() ? 0 : symbolGap + fontMetrics().horizontalAdvance(text());
+    const double left = (width() - 16 - textWidth) / 2.0;
+    return {left, (height() - 16) / 2.0, 16, 16};
+}
+
+void PushButton::resizeEvent(QResizeEvent*)
+{
+    if (m_spinner)
+        m_spinner->move((symbolRect().center() - QRectF(m_spinner->rect()).center()).toPoint());
+}
+
+void PushButton::paintEvent(QPaintEvent*)
+{
+    const Colours& colours = look::colours(this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+
+    // What spins is at work, not out of use, whatever the pointer can do with it.
+    const bool faint = !isEnabled() && !m_spinner;
+    const QRectF area = look::deviceAligned(this, rect());
+    const double radius = m_kind == Kind::plain ? 4 : 6;
+    QColor ink = m_tint ? colours.*m_tint : colours.primary;
+    if (m_kind == Kind::prominent) {
+        QColor fill = m_tint ? colours.*m_tint : colours.accent;
+        if (isDown())
+            fill = fill.darker(118);
+        else if (underMouse() && isEnabled())
+            fill = fill.darker(107);
+        painter.fillPath(look::continuousRect(area, radius), faint ? colours.controlPressed : fill);
+        ink = Qt::white;
+    } else if (m_kind == Kind::bordered) {
+        painter.setOpacity(faint ? 0.5 : 1);
+        const QColor fill = isDown()                      ? colours.controlPressed
+                            : underMouse() && isEnabled() ? colours.controlHovered
+                                                          : colours.control;
+        painter.fillPath(look::continuousRect(area, radius), fill);
+        look::strokeInside(painter, area, radius, colours.separator, 1);
+        painter.setOpacity(1);
+    }
+    if (faint)
+        ink = colours.tertiary;
+    if (hasFocus()) {
+        const QColor ring = m_kind == Kind::prominent ? QColor(255, 255, 255, 210) : colours.teal;
+        const double inset = m_kind == Kind::prominent ? 2 : 0;
+        look::strokeInside(painter, area.adjusted(inset, inset, -inset, -inset), radius - inset, ring, 2);
+    }
+
+    const bool hasGlyph = m_spinner || !m_symbol.isEmpty();
+    const QRectF glyph = symbolRect();
+    if (!m_spinner && !m_symbol.isEmpty())
+        drawSymbol(painter, glyph, m_symbol, ink);
+    painter.setPen(ink);
+    painter.setFont(font());
+    QRectF label = area;
+    if (hasGlyph)
+        label.setLeft(glyph.right() + symbolGap);
+    painter.drawText(label, static_cast<int>(hasGlyph ? Qt::AlignVCenter | Qt::AlignLeft : Qt::AlignCenter),
+                     text());
+}
+
+} // namespace ardeo

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "ui/elements/Style.h"
+
+#include <QPushButton>
+
+namespace ardeo
+{
+
+class Spinner;
+
+/// A button: bordered, filled with its tint (prominent), or a bare symbol (plain).
+class PushButton final : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    enum class Kind { bordered, prominent, plain };
+    enum class Size { regular, large };
+    using Tint = QColor Colours::*;
+
+    /// The symbol stands before the text; either may be empty.
+    PushButton(const QString& text, const QString& symbol, Kind kind, QWidget* parent = nullptr);
+
+    void setTint(Tint tint);
+    void setControlSize(Size size);
+    void setSymbol(const QString& symbol);
+    /// Shows a turning spinner, scaled by that factor, in the symbol's place.
+    void setSpinning(bool spinning, double scale);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QRectF symbolRect() const;
+
+    QString m_symbol;
+    Kind m_kind;
+    Tint m_tint = nullptr;
+    Size m_size = Size::regular;
+    Spinner* m_spinner = nullptr;
+};
+
+} // namespace ardeo

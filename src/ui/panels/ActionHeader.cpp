@@ -1,0 +1,46 @@
+#include "ui/panels/ActionHeader.h"
+
+#include "ui/elements/Binding.h"
+#include "ui/elements/PushButton.h"
+#include "ui/elements/Stack.h"
+
+namespace ardeo
+{
+
+ActionHeader::ActionHeader(MainViewModel& vm, QWidget* parent) : QWidget(parent)
+{
+    auto* row = rowIn(this, 10, {20, 14, 20, 10});
+    row->addStretch();
+
+    auto* refresh = new PushButton(QStringLiteral("Refresh"), QStringLiteral("arrow.clockwise"),
+                                   PushButton::Kind::bordered);
+    refresh->setControlSize(PushButton::Size::large);
+    refresh->setToolTip(QStringLiteral("Refresh adapter list — ⌘R"));
+    connect(refresh, &QPushButton::clicked, this, [&vm] { vm.refreshAdapters(); });
+    bind(
+        refresh, [&vm] { return vm.isLoading.value(); },
+        [refresh](bool loading) { refresh->setDisabled(loading); });
+    row->addWidget(refresh);
+
+    auto* apply = new PushButton(QString(), QString(), PushButton::Kind::prominent);
+    apply->setTint(&Colours::accent);
+    apply->setControlSize(PushButton::Size::large);
+    apply->setToolTip(QStringLiteral("Apply configuration — ⌘↩"));
+    connect(apply, &QPushButton::clicked, this, [&vm] { vm.applyConfiguration(); });
+    bind(
+        apply,
+        [&vm] {
+            return !vm.isApplying.value() && !vm.isLoading.value() && vm.selectedAdapter.value().has_value();
+        },
+        [apply](bool possible) { apply->setEnabled(possible); });
+    bind(
+        apply, [&vm] { return vm.isApplying.value(); },
+        [apply](bool applying) {
+            apply->setText(applying ? QStringLiteral("Applying…") : QStringLiteral("Apply"));
+            apply->setSymbol(applying ? QString() : QStringLiteral("checkmark.circle.fill"));
+            apply->setSpinning(applying, 0.75);
+        });
+    row->addWidget(apply);
+}
+
+} // namespace ardeo

@@ -1,0 +1,168 @@
+#include "ui/panels/AdapterPropertiesCard.h"
+
+#include "ui/elements/Binding.h"
+#include "ui/elements/InfoRow.h"
+#include "ui/elements/PushButton.h"
+#include "ui/elements/Spinner.h"
+#include "ui/elements/Stack.h"
+#include "ui/elements/TextLabel.h"
+
+#include <QPainter>
+
+#include <array>
+
+namespace ardeo
+{
+
+namespace
+{
+
+/// The dot that tells at a glance whether the service is connected.
+class StatusDot final : public QWidget
+{
+public:
+    StatusDot() { setFixedSize(7, 7); }
+    void setActive(bool active)
+    {
+        m_active = active;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const Colours& colours = look::colours(this);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(m_active ? colours.green : colours.tertiary);
+        painter.drawEllipse(rect());
+    }
+
+private:
+    bool m_active = false;
+};
+
+QWidget* makeStatusRow(MainViewModel& vm)
+{
+    auto* status = new QWidget;
+    auto* row = rowIn(status, 6, {0, 0, 0, 4});
+    auto* dot = new StatusDot;
+    auto* text = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::tertiary);
+    row->addWidget(dot);
+    row->addWidget(text);
+    row->addStretch();
+    bind(
+        status,
+        [&vm] {
+            const auto adapter = vm.selectedAdapter.value();
+            return adapter && adapter->isActive;
+        },
+        [dot, text](bool active) {
+            dot->setActive(active);
+            text->setText(active ? QStringLiteral("Connected") : QStringLiteral("Not connected"));
+            text->setEmphasis(active ? Emphasis::secondary : Emphasis::tertiary);
+        });
+    return status;
+}
+
+QWidget* makeLiveState(MainViewModel& vm)
+{
+    auto* live = new QWidget;
+    auto* stack = columnIn(live, 4);
+    stack->addWidget(makeStatusRow(vm));
+
+    using Read = QString (*)(const NetworkAdapterInfo&);
+    struct Line {
+        QString label;
+        Read value;
+        bool monospaced;
+        bool shownWhenEmpty;
+    };
+    const std::array lines{
+        Line{QStringLiteral("IP Address:"), [](auto& info) { return info.ipAddress.string(); }, true, true},
+        Line{QStringLiteral("Subnet Mask:"), [](auto& info) { return info.subnetMask.string(); }, true, true},
+        Line{QStringLiteral("Gateway:"), [](auto& info) { return info.router.string(); }, true, true},
+        Line{QStringLiteral("Preferred DNS:"), [](auto& info) { return info.primaryDNS.string(); }, true,
+             true},
+        Line{QStringLiteral("Alternate DNS:"), [](auto& info) { return info.alternateDNS.string(); }, true,
+             true},
+        Line{QStringLiteral("DHCP Server:"), [](auto& info) { return info.dhcpServer.string(); }, true,
+             false},
+        Line{QStringLiteral("Mode:"),
+             [](auto& info) {
+                 return info.ipv4Mode == IPv4Mode::manual ? QStringLiteral("Manual") : QStringLiteral("DHCP");
+             },
+             false, true},
+        Line{QStringLiteral("Computer Name:"), [](auto& info) { return info.computerName.string(); }, false,
+             false},
+    };
+    for (const Line& line : lines) {
+        auto* row = new InfoRow(line.label, QString(), line.monospaced, live);
+        stack->addWidget(row);
+        bind(
+            row, [&vm, read = line.value] { return read(vm.currentConfig.value()); },
+            [row, always = line.shownWhenEmpty](const QString& value) {
+                row->setValue(value);
+                row->setVisible(always || !value.isEmpty());
+            });
+    }
+    return live;
+}
+
+QWidget* makeContent(MainViewModel& vm)
+{
+    auto* content = new QWidget;
+    auto* layers = columnIn(content, 0);
+    auto* loading = new QWidget(content);
+    auto* row = rowIn(loading, 8);
+    row->addWidget(new Spinner(0.8));
+    row->addWidget(
+        new TextLabel(QStringLiteral("Loading…"), look::font(TextStyle::body), Emphasis::secondary));
+    row->addStretch();
+    QWidget* live = makeLiveState(vm);
+    layers->addWidget(loading);
+    layers->addWidget(live);
+    bind(
+        content, [&vm] { return vm.isLoading.value(); },
+        [loading, live](bool isLoading) {
+            (isLoading ? live : loading)->hide();
+            (isLoading ? loading : live)->show();
+        });
+    return content;
+}
+
+QWidget* makeEnableButton(MainViewModel& vm, Observed<bool>& showDisableConfirm)
+{
+    auto* button = new PushButton(QString(), QString(), PushButton::Kind::bordered);
+    const auto enabled = [&vm] {
+        const auto adapter = vm.selectedAdapter.value();
+        return adapter && adapter->isEnabled;
+    };
+    bind(button, enabled, [button](bool isEnabled) {
+        button->setText(isEnabled ? QStringLiteral("Disable Adapter") : QStringLiteral("Enable Adapter"));
+        button->setSymbol(isEnabled ? QStringLiteral("network.slash") : QStringLiteral("network"));
+        button->setTint(isEnabled ? &Colours::red : &Colours::green);
+    });
+    bind(
+        button, [&vm] { return !vm.isApplying.value() && vm.selectedAdapter.value().has_value(); },
+        [button](bool possible) { button->setEnabled(possible); });
+    QObject::connect(button, &QPushButton::clicked, button, [&vm, &showDisableConfirm, enabled] {
+        if (enabled())
+            showDisableConfirm = true;
+        else
+            vm.setAdapterEnabled(true);
+    });
+    return button;
+}
+
+} // namespace
+
+AdapterPropertiesCard::AdapterPropertiesCard(MainViewModel& vm, Observed<bool>& showDisableConfirm,
+                                             QWidget* parent)
+    : Card(QStringLiteral("Current Adapter Properties"), QStringLiteral("info.circle"),
+           makeEnableButton(vm, showDisableConfirm), makeContent(vm), parent)
+{
+}
+
+} // namespace ardeo

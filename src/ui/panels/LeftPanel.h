@@ -1,0 +1,47 @@
+#pragma once
+
+#include "model/MainViewModel.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace ardeo
+{
+
+class PresetList;
+class ProfileNameSheet;
+
+/// The sidebar: the adapter picker with a summary of the selected adapter, and the saved profiles.
+class LeftPanel final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LeftPanel(MainViewModel& model, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QWidget* makeProfileSection();
+    QWidget* makeSearchRow();
+    QWidget* makeListArea();
+    QWidget* makeBottomBar();
+    void followSheets();
+    void showSheet(ProfileNameSheet* sheet);
+
+    /// Told whenever the list of profiles changes, so that what reads the list can be bound to it.
+    bool hasPresets();
+
+    MainViewModel& vm;
+    Observed<Text> presetFilter;
+    Observed<bool> showSaveSheet{false};
+    Observed<Text> newPresetName;
+    Observed<std::optional<NetworkPreset>> presetToDelete;
+    Observed<std::optional<NetworkPreset>> presetToRename;
+    Observed<Text> renameText;
+    QProperty<int> m_presetChanges{0};
+    QPointer<ProfileNameSheet> m_sheet;
+};
+
+} // namespace ardeo

@@ -1,0 +1,323 @@
+#include "ui/panels/PresetList.h"
+
+#include "ui/elements/Style.h"
+#include "ui/elements/Symbol.h"
+
+#include <QKeyEvent>
+#include <QLocale>
+#include <QMenu>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QVariantAnimation>
+
+#include <algorithm>
+#include <numeric>
+
+namespace ardeo
+{
+
+namespace
+{
+
+constexpr int rowPadding = 10;
+constexpr int lineGap = 2;
+constexpr int highlightInset = 3;
+constexpr int hoverMilliseconds = 120;
+
+/// What two texts have in common when case does not count.
+QString folded(const QString& text)
+{
+    return QLocale().toLower(text.normalized(QString::NormalizationForm_C));
+}
+
+} // namespace
+
+QString presetSummary(const NetworkPreset& preset)
+{
+    const QString mode =
+        preset.ipv4Mode == IPv4Mode::manual ? QStringLiteral("Manual") : QStringLiteral("DHCP");
+    return mode + QStringLiteral(" · ") + preset.serviceName;
+}
+
+/// The rows as positions in the store's list, which stays the only place that holds the profiles.
+class PresetList::Rows final : public QAbstractListModel
+{
+public:
+    Rows(NetworkPresetStore& store, QObject* parent) : QAbstractListModel(parent), m_store(store)
+    {
+        connect(&store, &NetworkPresetStore::presetsWillChange, this, [this] { beginResetModel(); });
+        connect(&store, &NetworkPresetStore::presetsDidChange, this, [this] {
+            select();
+            endResetModel();
+        });
+        select();
+    }
+    void setFilter(const QString& filter)
+    {
+        if (filter == m_filter)
+            return;
+        beginResetModel();
+        m_filter = filter;
+        select();
+        endResetModel();
+    }
+    const NetworkPreset& preset(int row) const { return m_store.presets().at(m_positions.at(row)); }
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_positions.size());
+    }
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        const NetworkPreset& shown = preset(index.row());
+        if (role == Qt::DisplayRole)
+            return shown.name.string();
+        if (role == Qt::AccessibleTextRole)
+            return QString(shown.name.string() + QStringLiteral(", ") + presetSummary(shown));
+        return {};
+    }
+
+private:
+    void select()
+    {
+        m_positions.resize(m_store.presets().size());
+        std::iota(m_positions.begin(), m_positions.end(), 0);
+        if (m_filter.isEmpty())
+            return;
+        const QString wanted = folded(m_filter);
+        m_positions.removeIf(
+            [&](qsizetype i) { return !folded(m_store.presets().at(i).name).contains(wanted); });
+    }
+
+    NetworkPresetStore& m_store;
+    QString m_filter;
+    QList<qsizetype> m_positions;
+};
+
+namespace
+{
+
+class RowDelegate final : public QStyledItemDelegate
+{
+public:
+    using ReadPreset = std::function<const NetworkPreset&(int)>;
+    RowDelegate(PresetList* list, ReadPreset preset)
+        : QStyledItemDelegate(list)
+        , m_list(list)
+        , m_preset(std::move(preset))
+    {
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
+    {
+        const int lines = QFontMetrics(nameFont()).height() + lineGap + QFontMetrics(summaryFont()).height();
+        return {0, rowPadding + lines + rowPadding + 1}; // and the divider
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const NetworkPreset& preset = m_preset(index.row());
+        const Colours& colours = look::colours(m_list);
+        const double highlight = m_list->highlight(preset.id);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        const QRect row = option.rect.adjusted(0, 0, 0, -1);
+        const QRectF ground = QRectF(row).adjusted(highlightInset, 0, -highlightInset, 0);
+        if (highlight > 0)
+            painter->fillPath(look::continuousRect(ground, 6),
+                              look::withOpacity(colours.teal, 0.1 * highlight));
+        if (m_list->hasFocus() && m_list->currentIndex() == index)
+            look::strokeInside(*painter, ground, 6, colours.teal, 2);
+
+        QRect content = row.adjusted(rowPadding, rowPadding, -rowPadding, -rowPadding);
+        if (highlight > 0) {
+            const QString load = QStringLiteral("Load");
+            painter->setFont(look::font(TextStyle::caption, QFont::Medium));
+            const int width = painter->fontMetrics().horizontalAdvance(load);
+            painter->setPen(look::withOpacity(colours.teal, highlight));
+            painter->drawText(content.translated(static_cast<int>((1 - highlight) * width), 0),
+                              Qt::AlignRight | Qt::AlignVCenter, load);
+            content.setRight(content.right() - width - 4);
+        }
+        drawLine(*painter, content, nameFont(), colours.primary, preset.name);
+        content.setTop(content.top() + QFontMetrics(nameFont()).height() + lineGap);
+        drawLine(*painter, content, summaryFont(), colours.secondary, presetSummary(preset));
+        if (index.row() + 1 < index.model()->rowCount()) {
+            const QRect line(option.rect.left() + 10, option.rect.bottom(), option.rect.width() - 10, 1);
+            painter->fillRect(line, look::withOpacity(colours.separator, colours.separator.alphaF() * 0.4));
+        }
+        painter->restore();
+    }
+
+private:
+    static QFont nameFont() { return look::font(TextStyle::body, QFont::Medium); }
+    static QFont summaryFont() { return look::font(TextStyle::caption); }
+    static void drawLine(QPainter& painter, const QRect& rect, const QFont& font, const QColor& colour,
+                         const QString& text)
+    {
+        painter.setFont(font);
+        painter.setPen(colour);
+        const QString line =
+            painter.fontMetrics().elidedText(text.simplified(), Qt::ElideRight, rect.width());
+        painter.drawText(rect, static_cast<int>(Qt::AlignTop | Qt::AlignLeft | Qt::TextSingleLine), line);
+    }
+
+    PresetList* m_list;
+    ReadPreset m_preset;
+};
+
+} // namespace
+
+PresetList::PresetList(NetworkPresetStore& store, Actions actions, QWidget* parent)
+    : QListView(parent)
+    , m_store(store)
+    , m_actions(std::move(actions))
+    , m_rows(new Rows(store, this))
+{
+    setModel(m_rows);
+    setItemDelegate(
+        new RowDelegate(this, [this](int row) -> const NetworkPreset& { return m_rows->preset(row); }));
+    setAccessibleName(QStringLiteral("Profiles"));
+    setFrameShape(NoFrame);
+    setUniformItemSizes(true);
+    setSelectionMode(NoSelection);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setMouseTracking(true);
+    viewport()->setAutoFillBackground(false);
+    setAutoFillBackground(false);
+    connect(this, &QListView::clicked, this,
+            [this](const QModelIndex& index) { m_actions.load(m_rows->preset(index.row())); });
+    // A row that goes away from under the pointer is not hovered any more.
+    connect(m_rows, &QAbstractItemModel::modelReset, this, [this] {
+        const auto& presets = m_store.presets();
+        if (m_hoveredPreset &&
+            std::ranges::find(presets, *m_hoveredPreset, &NetworkPreset::id) == presets.end()) {
+            m_highlights.remove(*m_hoveredPreset);
+            m_hoveredPreset.reset();
+        }
+    });
+}
+
+PresetList::~PresetList() = default;
+
+void PresetList::setFilter(const QString& filter)
+{
+    m_rows->setFilter(filter);
+}
+
+qsizetype PresetList::count() const
+{
+    return m_rows->rowCount();
+}
+
+std::optional<NetworkPreset> PresetList::presetAt(const QModelIndex& index) const
+{
+    return index.isValid() ? std::optional(m_rows->preset(index.row())) : std::nullopt;
+}
+
+void PresetList::hover(const std::optional<QUuid>& id)
+{
+    if (m_hoveredPreset == id)
+        return;
+    const auto left = std::exchange(m_hoveredPreset, id);
+    if (left)
+        fade(*left, 0);
+    if (id)
+        fade(*id, 1);
+}
+
+void PresetList::fade(const QUuid& id, double target)
+{
+    const auto show = [this, id, target](double highlight) {
+        // A later change of mind has the say.
+        if ((target > 0) != (m_hoveredPreset == id))
+            return;
+        if (highlight > 0)
+            m_highlights[id] = highlight;
+        else
+            m_highlights.remove(id);
+        viewport()->update();
+    };
+    const int duration = look::duration(this, hoverMilliseconds);
+    if (duration == 0) {
+        show(target);
+        return;
+    }
+    auto* animation = new QVariantAnimation(this);
+    animation->setEasingCurve(QEasingCurve::InOutSine);
+    animation->setStartValue(m_highlights.value(id));
+    animation->setEndValue(target);
+    animation->setDuration(duration);
+    connect(animation, &QVariantAnimation::valueChanged, this,
+            [show](const QVariant& value) { show(value.toDouble()); });
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void PresetList::mouseMoveEvent(QMouseEvent* event)
+{
+    QListView::mouseMoveEvent(event);
+    const auto preset = presetAt(indexAt(event->position().toPoint()));
+    hover(preset ? std::optional(preset->id) : std::nullopt);
+}
+
+bool PresetList::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::Leave)
+        hover(std::nullopt);
+    return QListView::viewportEvent(event);
+}
+
+void PresetList::updateGeometries()
+{
+    QListView::updateGeometries();
+    verticalScrollBar()->setSingleStep(20);
+}
+
+void PresetList::keyPressEvent(QKeyEvent* event)
+{
+    const auto preset = presetAt(currentIndex());
+    switch (preset ? event->key() : 0) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        m_actions.load(*preset);
+        break;
+    case Qt::Key_F2:
+        m_actions.rename(*preset);
+        break;
+    case Qt::Key_Delete:
+        m_actions.remove(*preset);
+        break;
+    default:
+        QListView::keyPressEvent(event);
+    }
+}
+
+void PresetList::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QModelIndex index = byKey ? currentIndex() : indexAt(event->pos());
+    openMenu(index, byKey ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
+}
+
+void PresetList::openMenu(const QModelIndex& index, const QPoint& globalPosition)
+{
+    const auto preset = presetAt(index);
+    if (!preset)
+        return;
+    const Colours& colours = look::colours(this);
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto add = [&](const QString& text, const char* symbol, const QColor& colour, const auto& action) {
+        menu->addAction(symbolIcon(QLatin1String(symbol), colour), text, this,
+                        [action, preset] { action(*preset); });
+    };
+    add(QStringLiteral("Load Profile"), "arrow.down.circle", colours.primary, m_actions.load);
+    menu->addSeparator();
+    add(QStringLiteral("Rename…"), "pencil", colours.primary, m_actions.rename);
+    menu->addSeparator();
+    add(QStringLiteral("Delete…"), "trash", colours.red, m_actions.remove);
+    menu->popup(globalPosition);
+}
+
+} // namespace ardeo

@@ -1,0 +1,207 @@
+#include "ui/panels/ProfilePropertiesCard.h"
+
+#include "ui/elements/Binding.h"
+#include "ui/elements/Controls.h"
+#include "ui/elements/FormRow.h"
+#include "ui/elements/IPAddressField.h"
+#include "ui/elements/IconLabel.h"
+#include "ui/elements/PushButton.h"
+#include "ui/elements/Stack.h"
+#include "ui/elements/UnfoldingSection.h"
+
+#include <QButtonGroup>
+#include <QGraphicsOpacityEffect>
+#include <QVariantAnimation>
+
+#include <array>
+
+namespace ardeo
+{
+
+namespace
+{
+
+constexpr int fadeMilliseconds = 200;
+
+/// One radio button per mode, bound to the mode.
+template <typename Mode>
+QWidget* radioGroup(Observed<Mode>& mode, const QString& name, const std::array<const char*, 2>& texts)
+{
+    auto* group = new QWidget;
+    group->setAccessibleName(name);
+    auto* stack = columnIn(group, 4);
+    auto* buttons = new QButtonGroup(group);
+    for (const Mode choice : ModeTexts<Mode>::allCases) {
+        auto* button = new RadioButton(QLatin1String(texts.at(static_cast<size_t>(choice))));
+        buttons->addButton(button, static_cast<int>(choice));
+        stack->addWidget(button);
+    }
+    // Toggled rather than clicked, which assistive technology does not do.
+    QObject::connect(buttons, &QButtonGroup::idToggled, group, [&mode](int id, bool checked) {
+        if (checked && mode.value() != static_cast<Mode>(id))
+            mode = static_cast<Mode>(id);
+    });
+    bind(
+        group, [&mode] { return mode.value(); },
+        [buttons](Mode chosen) { buttons->button(static_cast<int>(chosen))->setChecked(true); });
+    return group;
+}
+
+struct AddressRow {
+    QString label;
+    Observed<Text>& value;
+    QString placeholder;
+};
+
+/// Rows with an address field each, that unfold while the condition holds.
+template <typename Condition>
+QWidget* addressRows(Condition condition, std::vector<AddressRow> rows)
+{
+    auto* section = new UnfoldingSection(8, 20, [rows = std::move(rows)] {
+        auto* content = new QWidget;
+        auto* stack = columnIn(content, 6);
+        for (const AddressRow& row : rows)
+            stack->addWidget(
+                new FormRow(row.label, new IPAddressField(row.value, row.placeholder, row.label)));
+        return content;
+    });
+    bind(section, condition, [section](bool shown) { section->setShown(shown); });
+    return section;
+}
+
+/// Fades the widget in or out; a hidden widget takes no part in the layout.
+void fade(QWidget* widget, bool shown)
+{
+    const int duration = look::duration(widget, fadeMilliseconds);
+    if (!widget->window()->isVisible() || duration == 0) {
+        widget->setVisible(shown);
+        return;
+    }
+    if (shown == widget->isVisible())
+        return;
+    auto* effect = new QGraphicsOpacityEffect(widget);
+    widget->setGraphicsEffect(effect);
+    auto* animation = new QVariantAnimation(effect);
+    animation->setStartValue(shown ? 0.0 : 1.0);
+    animation->setEndValue(shown ? 1.0 : 0.0);
+    animation->setDuration(duration);
+    QObject::connect(animation, &QVariantAnimation::valueChanged, effect,
+                     [effect](const QVariant& value) { effect->setOpacity(value.toDouble()); });
+    QObject::connect(animation, &QVariantAnimation::finished, widget, [widget, shown] {
+        widget->setVisible(shown);
+        widget->setGraphicsEffect(nullptr);
+    });
+    effect->setOpacity(shown ? 0 : 1);
+    widget->show();
+    animation->start();
+}
+
+QWidget* makeIPv4Section(MainViewModel& vm)
+{
+    auto* section = new QWidget;
+    auto* stack = columnIn(section, 0);
+    stack->addWidget(radioGroup(vm.ipv4Mode, QStringLiteral("IP Address"),
+                                {"Automatically Set IP Address", "Manually Set IP Address"}));
+    stack->addWidget(
+        addressRows([&vm] { return vm.ipv4Mode.value() == IPv4Mode::manual; },
+                    {{QStringLiteral("IP Address:"), vm.ipAddress, QStringLiteral("192.168.1.100")},
+                     {QStringLiteral("Subnet Mask:"), vm.subnetMask, QStringLiteral("255.255.255.0")},
+                     {QStringLiteral("Gateway:"), vm.router, QStringLiteral("192.168.1.1")}}));
+    return section;
+}
+
+QWidget* makeDNSSection(MainViewModel& vm)
+{
+    auto* section = new QWidget;
+    auto* stack = columnIn(section, 0);
+    stack->addWidget(radioGroup(vm.dnsMode, QStringLiteral("DNS"),
+                                {"Automatically Set DNS Address", "Manually Set DNS Address"}));
+    stack->addWidget(
+        addressRows([&vm] { return vm.dnsMode.value() == DNSMode::manual; },
+                    {{QStringLiteral("Preferred DNS:"), vm.primaryDNS, QStringLiteral("8.8.8.8")},
+                     {QStringLiteral("Alternate DNS:"), vm.alternateDNS, QStringLiteral("8.8.4.4")}}));
+    return section;
+}
+
+QWidget* makeFeedback(MainViewModel& vm)
+{
+    auto* feedback = new QWidget;
+    auto* stack = columnIn(feedback, 6);
+    auto* row = rowIn(stack, 10);
+
+    auto* revert = new PushButton(QStringLiteral("Revert"), QString(), PushButton::Kind::bordered);
+    QObject::connect(revert, &QPushButton::clicked, revert, [&vm] { vm.revertForm(); });
+    bind(
+        revert, [&vm] { return vm.hasChanges(); }, [revert](bool changed) { revert->setEnabled(changed); });
+    row->addWidget(revert);
+
+    auto* renew = new PushButton(QStringLiteral("Renew DHCP"), QStringLiteral("arrow.triangle.2.circlepath"),
+                                 PushButton::Kind::bordered);
+    renew->setToolTip(QStringLiteral("Force a new DHCP lease"));
+    QObject::connect(renew, &QPushButton::clicked, renew, [&vm] { vm.renewDHCPLease(); });
+    bind(
+        renew,
+        [&vm] {
+            return !vm.isApplying.value() && !vm.isLoading.value() && vm.selectedAdapter.value().has_value();
+        },
+        [renew](bool possible) { renew->setEnabled(possible); });
+    bind(
+        renew, [&vm] { return vm.currentConfig.value().ipv4Mode == IPv4Mode::dhcp; },
+        [renew](bool leased) { renew->setVisible(leased); });
+    row->addWidget(renew);
+
+    auto* applied = new IconLabel(
+        QStringLiteral("checkmark.circle.fill"), [](const Colours& colours) { return colours.green; }, false,
+        feedback);
+    applied->setText(QStringLiteral("Applied"));
+    bind(
+        applied, [&vm] { return vm.applySuccess.value(); },
+        [applied](bool success) { fade(applied, success); });
+    row->addWidget(applied);
+    row->addStretch(1);
+
+    auto* error = new IconLabel(
+        QStringLiteral("exclamationmark.triangle.fill"), [](const Colours& colours) { return colours.red; },
+        true, feedback);
+    bind(
+        error, [&vm] { return vm.applyError.value(); },
+        [error](const std::optional<Text>& message) {
+            error->setText(message.value_or(Text()));
+            error->setVisible(message.has_value());
+        });
+    stack->addWidget(error);
+    return feedback;
+}
+
+QWidget* makeForm(MainViewModel& vm)
+{
+    auto* content = new QWidget;
+    auto* stack = columnIn(content, 12);
+    stack->addWidget(makeIPv4Section(vm));
+    stack->addWidget(look::divider(content));
+    stack->addWidget(makeDNSSection(vm));
+    stack->addWidget(look::divider(content));
+    stack->addWidget(makeFeedback(vm));
+    return content;
+}
+
+} // namespace
+
+ProfilePropertiesCard::ProfilePropertiesCard(MainViewModel& vm, QWidget* parent)
+    : Card(QStringLiteral("Set Profile Properties"), QStringLiteral("slider.horizontal.3"), nullptr,
+           makeForm(vm), parent)
+    // A mode may change in the middle of filling the form, whose mask comes later: look at it when that is
+    // over.
+    , m_maskDefault(vm.ipv4Mode.addNotifier([this, &vm] {
+        QMetaObject::invokeMethod(
+            this,
+            [&vm] {
+                if (vm.ipv4Mode.value() == IPv4Mode::manual && vm.subnetMask.value().isEmpty())
+                    vm.subnetMask = Text(QStringLiteral("255.255.255.0"));
+            },
+            Qt::QueuedConnection);
+    }))
+{
+}
+
+} // namespace ardeo

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "model/MainViewModel.h"
+#include "ui/elements/Card.h"
+
+namespace ardeo
+{
+
+/// The form with the settings to apply, and what came of applying them.
+class ProfilePropertiesCard final : public Card
+{
+    Q_OBJECT
+
+public:
+    explicit ProfilePropertiesCard(MainViewModel& model, QWidget* parent = nullptr);
+
+private:
+    QPropertyNotifier m_maskDefault;
+};
+
+} // namespace ardeo

@@ -1,0 +1,130 @@
+#include "ui/panels/RightPanel.h"
+
+#include "ui/elements/Binding.h"
+#include "ui/elements/CardScrollArea.h"
+#include "ui/elements/Controls.h"
+#include "ui/elements/PushButton.h"
+#include "ui/elements/Stack.h"
+#include "ui/elements/TextLabel.h"
+#include "ui/panels/ActionHeader.h"
+#include "ui/panels/AdapterPropertiesCard.h"
+#include "ui/panels/ProfilePropertiesCard.h"
+#include "ui/sheets/ConfirmationDialog.h"
+
+#include <QStackedLayout>
+
+#include <array>
+
+namespace ardeo
+{
+
+namespace
+{
+
+constexpr double backgroundMaxDist = 220;
+constexpr double backgroundSpeed = 0.25;
+
+QWidget* makeEmptyState()
+{
+    auto* view = new QWidget;
+    auto* stack = columnIn(view, 8);
+    stack->addStretch();
+    stack->addWidget(new SymbolView(QStringLiteral("network.slash"), 48,
+                                    [](const Colours& colours) { return colours.secondary; }),
+                     0, Qt::AlignHCenter);
+    stack->addWidget(new TextLabel(QStringLiteral("No Network Services"),
+                                   look::font(TextStyle::title2, QFont::Bold), Emphasis::primary),
+                     0, Qt::AlignHCenter);
+    stack->addWidget(new TextLabel(QStringLiteral("No network services found on this Mac."),
+                                   look::font(TextStyle::subheadline), Emphasis::secondary),
+                     0, Qt::AlignHCenter);
+    stack->addStretch();
+    return view;
+}
+
+QString nameOf(const std::optional<AdapterInfo>& adapter, const char* otherwise)
+{
+    return adapter ? adapter->serviceName.string() : QLatin1String(otherwise);
+}
+
+} // namespace
+
+RightPanel::RightPanel(MainViewModel& model, Clock& clock, QWidget* parent)
+    : QWidget(parent)
+    , vm(model)
+    , m_background(new NeuralNetworkBackground(clock, backgroundMaxDist, backgroundSpeed, this))
+{
+    setMinimumWidth(460);
+    auto* layers = new QStackedLayout(this);
+    layers->addWidget(makeContent());
+    layers->addWidget(makeEmptyState());
+    bind(
+        this, [this] { return vm.adapters.value().isEmpty() && !vm.isLoading.value(); },
+        [layers](bool empty) { layers->setCurrentIndex(empty ? 1 : 0); });
+    m_background->lower();
+    m_background->setCovered([this] { return covered(); });
+    followDisableConfirm();
+}
+
+void RightPanel::resizeEvent(QResizeEvent*)
+{
+    m_background->setGeometry(rect());
+}
+
+QRegion RightPanel::covered() const
+{
+    QRegion region;
+    for (const QWidget* widget : m_covering) {
+        if (widget->isVisible())
+            region += QRect(widget->mapTo(this, QPoint()), widget->size()) & rect();
+    }
+    return region;
+}
+
+QWidget* RightPanel::makeContent()
+{
+    auto* view = new QWidget;
+    auto* stack = columnIn(view, 0);
+    auto* header = new ActionHeader(vm);
+    stack->addWidget(header);
+    for (QWidget* button : header->findChildren<PushButton*>())
+        m_covering << button;
+
+    auto* cards = new QWidget;
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    auto* column = columnIn(cards, 16, {20, 20, 20 - bar, 20});
+    const std::array<Card*, 2> inOrder{new ProfilePropertiesCard(vm),
+                                       new AdapterPropertiesCard(vm, showDisableConfirm)};
+    for (Card* card : inOrder) {
+        card->setBackground(m_background);
+        column->addWidget(card);
+        m_covering << card;
+    }
+    column->addStretch();
+    stack->addWidget(new CardScrollArea(cards), 1);
+    return view;
+}
+
+void RightPanel::followDisableConfirm()
+{
+    bind(
+        this, [this] { return showDisableConfirm.value(); },
+        [this](bool shown) {
+            if (!shown)
+                return;
+            const auto adapter = vm.selectedAdapter.value();
+            auto* confirmation =
+                new ConfirmationDialog(QStringLiteral("Disable %1?").arg(nameOf(adapter, "Adapter")),
+                                       QStringLiteral("This will disconnect %1 from the network.")
+                                           .arg(nameOf(adapter, "the adapter")),
+                                       QStringLiteral("Disable"), window());
+            connect(confirmation, &QDialog::finished, this, [this](int result) {
+                showDisableConfirm = false;
+                if (result == QDialog::Accepted)
+                    vm.setAdapterEnabled(false);
+            });
+            confirmation->show();
+        });
+}
+
+} // namespace ardeo

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/MainViewModel.h"
+#include "ui/NeuralNetworkBackground.h"
+
+namespace ardeo
+{
+
+/// The form with the settings to apply, the live state of the selected service, and the buttons that act on
+/// it.
+class RightPanel final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    RightPanel(MainViewModel& model, Clock& clock, QWidget* parent = nullptr);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QWidget* makeContent();
+    void followDisableConfirm();
+    QRegion covered() const;
+
+    MainViewModel& vm;
+    Observed<bool> showDisableConfirm{false};
+    NeuralNetworkBackground* m_background;
+    /// What hides the background, for its sake.
+    QList<QWidget*> m_covering;
+};
+
+} // namespace ardeo

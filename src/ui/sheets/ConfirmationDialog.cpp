@@ -1,0 +1,56 @@
+#include "ui/sheets/ConfirmationDialog.h"
+
+#include "ui/elements/PushButton.h"
+#include "ui/elements/Stack.h"
+#include "ui/elements/TextLabel.h"
+
+namespace ardeo
+{
+
+namespace
+{
+
+constexpr int dialogWidth = 320;
+constexpr int padding = 24;
+
+} // namespace
+
+ConfirmationDialog::ConfirmationDialog(const QString& title, const QString& message,
+                                       const QString& destructive, QWidget* parent)
+    : QDialog(parent, Qt::Sheet)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowModality(Qt::WindowModal);
+    setWindowTitle(title);
+    auto* stack = columnIn(this, 8, {padding, padding, padding, padding});
+    const auto add = [stack](const QString& text, TextStyle style, Emphasis emphasis) {
+        auto* label = new TextLabel(text, look::font(style), emphasis);
+        label->setAlignment(Qt::AlignCenter);
+        label->setWordWrap(true);
+        stack->addWidget(label);
+    };
+    add(title, TextStyle::headline, Emphasis::primary);
+    if (!message.isEmpty())
+        add(message, TextStyle::body, Emphasis::secondary);
+    stack->addSpacing(4);
+
+    auto* go = new PushButton(destructive, QString(), PushButton::Kind::bordered);
+    go->setTint(&Colours::red);
+    auto* cancel = new PushButton(QStringLiteral("Cancel"), QString(), PushButton::Kind::bordered);
+    cancel->setDefault(true);
+    for (PushButton* button : {go, cancel}) {
+        button->setControlSize(PushButton::Size::large);
+        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        stack->addWidget(button);
+    }
+    go->setToolTip(destructive);
+    go->setAccessibleName(destructive);
+    go->setText(go->fontMetrics().elidedText(destructive, Qt::ElideMiddle, dialogWidth - 2 * padding - 20));
+    connect(go, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    setFixedSize(dialogWidth,
+                 stack->hasHeightForWidth() ? stack->totalHeightForWidth(dialogWidth) : sizeHint().height());
+    cancel->setFocus();
+}
+
+} // namespace ardeo

@@ -1,0 +1,76 @@
+#include "ui/sheets/ProfileNameSheet.h"
+
+#include "ui/elements/Binding.h"
+#include "ui/elements/Controls.h"
+#include "ui/elements/PushButton.h"
+#include "ui/elements/Stack.h"
+#include "ui/elements/TextLabel.h"
+
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace ardeo
+{
+
+namespace
+{
+
+bool isBlank(const QString& name)
+{
+    return std::ranges::all_of(name,
+                               [](QChar c) { return c.category() == QChar::Separator_Space || c == u'\t'; });
+}
+
+} // namespace
+
+ProfileNameSheet::ProfileNameSheet(Observed<Text>& name, const QString& title, const QString& confirm,
+                                   std::function<void()> onConfirm, std::function<void()> onCancel,
+                                   QWidget* parent)
+    : QDialog(parent, Qt::Sheet)
+    , m_onCancel(std::move(onCancel))
+{
+    setWindowModality(Qt::WindowModal);
+    setWindowTitle(title);
+    auto* stack = columnIn(this, 20, {24, 24, 24, 24});
+    stack->addWidget(new TextLabel(title, look::font(TextStyle::headline), Emphasis::primary), 0,
+                     Qt::AlignHCenter);
+
+    auto* field = new TextField;
+    field->setFixedWidth(260);
+    field->setPlaceholderText(QStringLiteral("Profile name"));
+    field->setAccessibleName(QStringLiteral("Profile name"));
+    stack->addWidget(field, 0, Qt::AlignHCenter);
+    connect(field, &QLineEdit::textEdited, this, [&name](const QString& text) { name = Text(text); });
+    bind(
+        this, [&name] { return name.value(); },
+        [field](const Text& text) {
+            if (Text(field->text()) != text)
+                field->setText(text);
+        });
+    field->selectAll();
+
+    auto* buttons = rowIn(stack, 12);
+    auto* cancel = new PushButton(QStringLiteral("Cancel"), QString(), PushButton::Kind::bordered);
+    auto* save = new PushButton(confirm, QString(), PushButton::Kind::prominent);
+    save->setTint(&Colours::tealFill);
+    save->setDefault(true);
+    buttons->addStretch();
+    buttons->addWidget(cancel);
+    buttons->addWidget(save);
+    buttons->addStretch();
+    connect(cancel, &QPushButton::clicked, this, [this] { m_onCancel(); });
+    connect(save, &QPushButton::clicked, this, std::move(onConfirm));
+    bind(
+        this, [&name] { return !isBlank(name.value()); }, [save](bool named) { save->setEnabled(named); });
+
+    setFixedSize(320, sizeHint().height());
+    field->setFocus();
+}
+
+void ProfileNameSheet::reject()
+{
+    m_onCancel();
+}
+
+} // namespace ardeo

@@ -1,0 +1,13 @@
+#include "ui/sheets/RenamePresetSheet.h"
+
+namespace ardeo
+{
+
+RenamePresetSheet::RenamePresetSheet(Observed<Text>& name, std::function<void()> onSave,
+                                     std::function<void()> onCancel, QWidget* parent)
+    : ProfileNameSheet(name, QStringLiteral("Rename Profile"), QStringLiteral("Rename"), std::move(onSave),
+                       std::move(onCancel), parent)
+{
+}
+
+} // namespace ardeo

@@ -1,0 +1,82 @@
+#include "ui/windows/ContentView.h"
+
+#include "ui/elements/Stack.h"
+#include "ui/elements/Style.h"
+#include "ui/panels/LeftPanel.h"
+#include "ui/panels/RightPanel.h"
+
+#include <QPainter>
+#include <QSplitter>
+
+#include <utility>
+
+namespace ardeo
+{
+
+namespace
+{
+
+constexpr int sidebarMinimum = 240;
+constexpr int sidebarIdeal = 260;
+constexpr int sidebarMaximum = 300;
+
+/// A divider that is one point wide and yet can be taken hold of.
+class Splitter final : public QSplitter
+{
+public:
+    using QSplitter::QSplitter;
+
+protected:
+    class Handle final : public QSplitterHandle
+    {
+    public:
+        using QSplitterHandle::QSplitterHandle;
+
+    protected:
+        void paintEvent(QPaintEvent*) override
+        {
+            QPainter painter(this);
+            painter.fillRect(rect(), look::colours(this).sidebar);
+            painter.fillRect(rect(), look::colours(this).separator);
+        }
+    };
+    QSplitterHandle* createHandle() override { return new Handle(orientation(), this); }
+};
+
+} // namespace
+
+ContentView::ContentView(MainViewModel& model, Clock& clock, NotificationCenter& notifications,
+                         OpenWindow openWindow, QWidget* parent)
+    : QWidget(parent)
+    , vm(model)
+{
+    auto* columns = new Splitter(Qt::Horizontal);
+    auto* sidebar = new LeftPanel(vm);
+    sidebar->setMinimumWidth(sidebarMinimum);
+    sidebar->setMaximumWidth(sidebarMaximum);
+    auto* detail = new RightPanel(vm, clock);
+    columns->addWidget(sidebar);
+    columns->addWidget(detail);
+    columns->setChildrenCollapsible(false);
+    columns->setStretchFactor(0, 0);
+    columns->setStretchFactor(1, 1);
+    columns->setSizes({sidebarIdeal, 10'000});
+    columnIn(this, 0)->addWidget(columns);
+    connect(&notifications, &NotificationCenter::posted, this,
+            [openWindow = std::move(openWindow)](const QString& name) {
+                if (name == openHelpNotification)
+                    openWindow(QStringLiteral("help"));
+                else if (name == openShortcutsNotification)
+                    openWindow(QStringLiteral("shortcuts"));
+            });
+}
+
+void ContentView::showEvent(QShowEvent*)
+{
+    if (std::exchange(m_hasAppeared, true))
+        return;
+    setFocus(); // no control has it before the user has chosen one
+    vm.loadAdapters();
+}
+
+} // namespace ardeo

@@ -1,0 +1,182 @@
+#include "ui/windows/HelpView.h"
+
+#include "ui/MaterialPanel.h"
+#include "ui/elements/Controls.h"
+#include "ui/elements/Stack.h"
+#include "ui/elements/TextLabel.h"
+
+#include <QApplication>
+#include <QPainter>
+
+#include <array>
+
+namespace ardeo
+{
+
+namespace
+{
+
+constexpr int pageWidth = 620;
+constexpr int padding = 28;
+constexpr int iconSize = 64;
+constexpr double radius = 14;
+constexpr int lineSpacing = 4;
+
+constexpr auto about =
+    "Ardeo IP Config is a native macOS utility for quickly switching network adapter configurations. Switch "
+    "between DHCP and static IP in seconds — ideal for IT professionals, developers, and power users who "
+    "work "
+    "across multiple network environments such as office, home, VPN, or lab setups.\n\n"
+    "Settings are applied instantly through macOS System Configuration, the same framework used by Network "
+    "preferences. No restarts required.";
+
+struct Entry {
+    const char* title;
+    const char* detail;
+};
+
+constexpr auto features = std::to_array<Entry>({
+    {"Select any adapter", "Wi-Fi, Ethernet, Thunderbolt, VPN"},
+    {"DHCP / Static IP", "Switch modes with one click"},
+    {"DNS control", "Automatic or manually configured DNS servers"},
+    {"Network profiles", "Save, load, rename, delete named presets"},
+    {"Import & Export", "Share profiles as JSON files across machines"},
+    {"Current properties", "Live view of IP, subnet, gateway, DHCP server, computer name"},
+    {"Enable / Disable adapter", "Toggle any adapter on or off without System Settings"},
+    {"Renew DHCP lease", "Force a fresh lease from the DHCP server"},
+    {"Menu bar access", "Quick access from the menu bar icon at all times"},
+    {"Start at Login", "Launch automatically when you log in"},
+});
+
+constexpr auto steps = std::to_array<Entry>({
+    {"Select an Adapter",
+     "Use the dropdown at the top of the left panel to choose a network interface. The hardware name and MAC "
+     "address appear below the picker."},
+    {"Configure Settings",
+     "Choose \"Automatically Set IP Address\" for DHCP, or \"Manually Set IP Address\" to enter a static IP, "
+     "subnet mask, and gateway. Set DNS in the same way below."},
+    {"Apply", "Click the Apply button (top-right) or press ⌘↩. The interface briefly reconfigures; the "
+              "Current Adapter "
+              "Properties card refreshes automatically after ~4 seconds."},
+    {"Save a Profile",
+     "Click \"Save Profile…\" at the bottom of the left panel. Give the preset a name — it appears in the "
+     "profiles list immediately."},
+    {"Load a Profile",
+     "Click any profile row to populate the form fields. Then click Apply to activate it on the selected "
+     "adapter."},
+    {"Manage Profiles",
+     "Right-click any profile to Rename or Delete it. Use the ↓ / ↑ icon buttons to Import or Export the "
+     "entire profile list as a JSON file."},
+    {"Enable / Disable Adapter", "In the Current Adapter Properties card, use the \"Enable Adapter\" or "
+                                 "\"Disable Adapter\" button. Green "
+                                 "= re-enable, Red = disable."},
+    {"Renew DHCP",
+     "Visible in the Set Profile Properties card when the adapter is in DHCP mode. Forces a fresh IP lease "
+     "from the router."},
+});
+
+QColor teal(const Colours& colours)
+{
+    return colours.teal;
+}
+
+/// The application's own icon.
+class ApplicationIcon final : public QWidget
+{
+public:
+    ApplicationIcon() { setFixedSize(iconSize, iconSize); }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setClipPath(look::continuousRect(rect(), radius));
+        QApplication::windowIcon().paint(&painter, rect());
+    }
+};
+
+void addHeader(QVBoxLayout* stack)
+{
+    auto* header = rowIn(stack, 16);
+    header->addWidget(new ApplicationIcon);
+    auto* texts = columnIn(header, 4, 1);
+    texts->addStretch();
+    texts->addWidget(new TextLabel(QStringLiteral("Ardeo IP Config"),
+                                   look::font(TextStyle::title, QFont::Bold), Emphasis::primary));
+    texts->addWidget(new TextLabel(QStringLiteral("Network configuration made fast."),
+                                   look::font(TextStyle::subheadline), Emphasis::secondary));
+    texts->addStretch();
+}
+
+/// A card with a heading; its content goes below that, with that spacing.
+QVBoxLayout* addCard(QVBoxLayout* stack, const char* title, const char* symbol, int spacing)
+{
+    auto* card = new MaterialPanel(radius, [](const Colours&) { return look::withOpacity(Qt::white, 0.15); });
+    card->setAccessibleName(QLatin1String(title));
+    stack->addWidget(card);
+    auto* column = columnIn(card, 12, {16, 16, 16, 16});
+    auto* heading = rowIn(column, 6);
+    heading->addWidget(
+        new SymbolView(QLatin1String(symbol), 16, [](const Colours& colours) { return colours.primary; }));
+    heading->addWidget(
+        new TextLabel(QLatin1String(title), look::font(TextStyle::headline), Emphasis::primary), 1);
+    return columnIn(column, spacing);
+}
+
+QLabel* makeAbout()
+{
+    const QFont font = look::font(TextStyle::callout);
+    auto* text = new TextLabel(QString(), font, Emphasis::primary);
+    const int height = QFontMetrics(font).height();
+    text->setTextFormat(Qt::RichText); // the only kind whose lines can stand further apart
+    text->setText(QStringLiteral("<div style='line-height:%1%'>%2</div>")
+                      .arg(100 * (height + lineSpacing) / height)
+                      .arg(QString::fromUtf8(about).toHtmlEscaped().replace(u'\n', QStringLiteral("<br/>"))));
+    text->setWordWrap(true);
+    return text;
+}
+
+/// A row of a card: what stands before it, and its title over its detail.
+void addRow(QVBoxLayout* rows, QWidget* leading, int spacing, const Entry& entry, int titleWeight, int lines)
+{
+    auto* row = rowIn(rows, spacing);
+    row->addWidget(leading, 0, Qt::AlignTop);
+    auto* texts = columnIn(row, lines, 1);
+    texts->addWidget(new TextLabel(QString::fromUtf8(entry.title),
+                                   look::font(TextStyle::callout, titleWeight), Emphasis::primary));
+    auto* detail =
+        new TextLabel(QString::fromUtf8(entry.detail), look::font(TextStyle::caption), Emphasis::secondary);
+    detail->setWordWrap(true);
+    texts->addWidget(detail);
+}
+
+} // namespace
+
+HelpView::HelpView(Clock& clock, QWidget* parent) : BackgroundPage(clock, pageWidth, padding, parent)
+{
+    auto* content = new QWidget;
+    auto* stack = columnIn(content, 24);
+    addHeader(stack);
+    addCard(stack, "About", "info.circle", 0)->addWidget(makeAbout());
+
+    QVBoxLayout* featureRows = addCard(stack, "Features", "star.circle", 6);
+    for (const Entry& feature : features) {
+        auto* tick = new SymbolView(QStringLiteral("checkmark.circle.fill"), 14, teal);
+        tick->setFixedWidth(18);
+        addRow(featureRows, tick, 8, feature, QFont::Medium, 1);
+    }
+
+    QVBoxLayout* stepRows = addCard(stack, "How to Use", "hand.point.right.fill", 10);
+    for (const Entry& step : steps) {
+        auto* number = new TextLabel(QString::number(&step - steps.data() + 1),
+                                     look::font(TextStyle::callout, QFont::Bold), Emphasis::primary);
+        number->setColour(teal);
+        number->setContentsMargins(0, 1, 0, 0);
+        number->setFixedWidth(20);
+        addRow(stepRows, number, 12, step, QFont::DemiBold, 2);
+    }
+    setContent(content);
+}
+
+} // namespace ardeo

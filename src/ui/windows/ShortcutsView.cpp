@@ -1,0 +1,136 @@
+#include "ui/windows/ShortcutsView.h"
+
+#include "ui/MaterialPanel.h"
+#include "ui/elements/Controls.h"
+#include "ui/elements/Stack.h"
+#include "ui/elements/TextLabel.h"
+
+#include <QPainter>
+
+namespace ardeo
+{
+
+namespace
+{
+
+constexpr int pageWidth = 520;
+constexpr int padding = 24;
+constexpr double boxRadius = 10;
+
+QColor teal(const Colours& colours)
+{
+    return colours.teal;
+}
+
+/// A key or a path through the menus, on a ground of its own.
+class KeyLabel final : public TextLabel
+{
+public:
+    explicit KeyLabel(const QString& text)
+        : TextLabel(text, look::monospacedFont(TextStyle::callout, QFont::Medium), Emphasis::primary)
+    {
+        setColour(teal);
+        setContentsMargins(8, 3, 8, 3);
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        {
+            QPainter painter(this);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.fillPath(look::continuousRect(look::deviceAligned(this, rect()), 6),
+                             look::withOpacity(look::colours(this).teal, 0.12));
+        }
+        TextLabel::paintEvent(event);
+    }
+};
+
+QWidget* makeRow(const Shortcut& shortcut)
+{
+    auto* row = new QWidget;
+    auto* line = rowIn(row, -1, {12, 8, 12, 8});
+    line->addWidget(new TextLabel(shortcut.label, look::font(TextStyle::callout), Emphasis::primary));
+    line->addStretch();
+    line->addWidget(new KeyLabel(shortcut.key));
+    return row;
+}
+
+QWidget* makeBox(const std::vector<Shortcut>& shortcuts)
+{
+    auto* box =
+        new MaterialPanel(boxRadius, [](const Colours&) { return look::withOpacity(Qt::white, 0.12); });
+    auto* rows = columnIn(box, 0);
+    for (const Shortcut& shortcut : shortcuts) {
+        if (&shortcut != &shortcuts.front()) {
+            auto* inset = rowIn(rows, 0);
+            inset->setContentsMargins(12, 0, 12, 0);
+            inset->addWidget(look::divider(box, 0.4));
+        }
+        rows->addWidget(makeRow(shortcut));
+    }
+    return box;
+}
+
+void addSection(QVBoxLayout* stack, const ShortcutSection& section)
+{
+    auto* block = columnIn(stack, 10);
+    auto* heading = rowIn(block, 6);
+    heading->addWidget(
+        new SymbolView(section.icon, 14, [](const Colours& colours) { return colours.secondary; }));
+    heading->addWidget(new TextLabel(section.title, look::font(TextStyle::subheadline, QFont::DemiBold),
+                                     Emphasis::secondary),
+                       1);
+    block->addWidget(makeBox(section.shortcuts));
+}
+
+void addHeader(QVBoxLayout* stack)
+{
+    auto* header = rowIn(stack, 12);
+    header->setContentsMargins(0, 0, 0, 4);
+    header->addWidget(new SymbolView(QStringLiteral("keyboard"), 22, teal));
+    header->addWidget(new TextLabel(QStringLiteral("Keyboard Shortcuts"),
+                                    look::font(TextStyle::title2, QFont::Bold), Emphasis::primary),
+                      1);
+}
+
+} // namespace
+
+std::vector<ShortcutSection> shortcutSections()
+{
+    return {
+        {QStringLiteral("Configuration"),
+         QStringLiteral("slider.horizontal.3"),
+         {{QStringLiteral("⌘ + ↩"), QStringLiteral("Apply configuration")},
+          {QStringLiteral("⌘ + R"), QStringLiteral("Refresh adapter list")}}},
+        {QStringLiteral("Profiles"),
+         QStringLiteral("list.bullet"),
+         {{QStringLiteral("⇧ + ⌘ + I"), QStringLiteral("Import profiles from file")},
+          {QStringLiteral("⇧ + ⌘ + E"), QStringLiteral("Export profiles to file")}}},
+        {QStringLiteral("Adapter"),
+         QStringLiteral("network"),
+         {{QStringLiteral("Tools → Renew DHCP"), QStringLiteral("Renew DHCP lease")},
+          {QStringLiteral("Tools → Enable Adapter"), QStringLiteral("Enable the selected adapter")},
+          {QStringLiteral("Tools → Disable Adapter"), QStringLiteral("Disable the selected adapter")}}},
+        {QStringLiteral("Navigation"),
+         QStringLiteral("macwindow"),
+         {{QStringLiteral("Tools → Network Settings"), QStringLiteral("Open Network Settings")},
+          {QStringLiteral("Tools → Activity Monitor"), QStringLiteral("Open Activity Monitor")},
+          {QStringLiteral("⌘ + H"), QStringLiteral("Hide Ardeo IP Config")},
+          {QStringLiteral("⌘ + Q"), QStringLiteral("Quit Ardeo IP Config")}}},
+    };
+}
+
+ShortcutsView::ShortcutsView(const std::vector<ShortcutSection>& sections, Clock& clock, QWidget* parent)
+    : BackgroundPage(clock, pageWidth, padding, parent)
+{
+    auto* content = new QWidget;
+    auto* stack = columnIn(content, 16);
+    addHeader(stack);
+    for (const ShortcutSection& section : sections)
+        addSection(stack, section);
+    setContent(content);
+}
+
+} // namespace ardeo
