@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <utility>
+
 namespace ardeo
 {
 
@@ -37,6 +39,7 @@ void UnfoldingSection::setShown(bool shown)
     if (shown) {
         m_content = m_makeContent();
         m_content->setParent(this);
+        putInTabOrder();
         m_content->adjustSize();
         resizeEvent(nullptr);
     }
@@ -60,6 +63,23 @@ void UnfoldingSection::setShown(bool shown)
     m_animation.setEndValue(shown ? 1.0 : 0.0);
     m_animation.setDuration(unfoldMilliseconds);
     m_animation.start();
+}
+
+void UnfoldingSection::putInTabOrder()
+{
+    // What comes into a window joins the end of its order, wherever it stands. Only what can have the focus
+    // can be moved in the order.
+    QWidget* before = previousInFocusChain();
+    while (before != this && before->focusPolicy() == Qt::NoFocus)
+        before = before->previousInFocusChain();
+    QWidget* next = m_content->nextInFocusChain();
+    while (m_content->isAncestorOf(next)) {
+        QWidget* control = std::exchange(next, next->nextInFocusChain());
+        if (control->focusPolicy() != Qt::NoFocus) {
+            setTabOrder(before, control);
+            before = control;
+        }
+    }
 }
 
 void UnfoldingSection::setProgress(double progress)

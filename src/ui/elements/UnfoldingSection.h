@@ -31,6 +31,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void putInTabOrder();
     void setProgress(double progress);
 
     int m_gap;

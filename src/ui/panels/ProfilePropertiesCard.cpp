@@ -43,7 +43,13 @@ QWidget* radioGroup(Observed<Mode>& mode, const QString& name, const std::array<
     });
     bind(
         group, [&mode] { return mode.value(); },
-        [buttons](Mode chosen) { buttons->button(static_cast<int>(chosen))->setChecked(true); });
+        [buttons](Mode chosen) {
+            QAbstractButton* checked = buttons->button(static_cast<int>(chosen));
+            checked->setChecked(true);
+            // The Tab key stops at what is chosen, from where the arrow keys lead to the rest.
+            for (QAbstractButton* button : buttons->buttons())
+                button->setFocusPolicy(button == checked ? Qt::StrongFocus : Qt::ClickFocus);
+        });
     return group;
 }
 
