@@ -263,6 +263,24 @@ private Q_SLOTS:
                  "Disable Adapter"_s);
     }
 
+    void pressedButtonsKeepTheFocus()
+    {
+        Window w;
+        w.window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
+        w.click("Manually Set IP Address");
+        for (const char* name : {"Revert", "Refresh"}) {
+            w.find<QAbstractButton>(name)->setFocus();
+            for (int i = 0; i < 2; ++i)
+                QTest::keyClick(w.window->windowHandle(), Qt::Key_Space);
+            QVERIFY(!w.model->isApplying.value() && w.find<QAbstractButton>(name)->hasFocus());
+            w.settle();
+            QVERIFY(w.find<QRadioButton>("Automatically Set IP Address")->isChecked());
+        }
+        QTest::keyClick(w.window->windowHandle(), Qt::Key_Tab);
+        QVERIFY(w.find<QAbstractButton>("Apply")->hasFocus());
+    }
+
     void pickerSelects()
     {
         Window w;

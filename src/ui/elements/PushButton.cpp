@@ -27,6 +27,18 @@ PushButton::PushButton(const QString& text, const QString& symbol, Kind kind, QW
     setAutoDefault(false);
 }
 
+void PushButton::setUsable(bool usable)
+{
+    m_keepsFocus = true;
+    setEnabled(usable);
+    m_keepsFocus = false;
+}
+
+bool PushButton::focusNextPrevChild(bool next)
+{
+    return m_keepsFocus || QPushButton::focusNextPrevChild(next);
+}
+
 void PushButton::setTint(Tint tint)
 {
     m_tint = tint;

@@ -22,6 +22,9 @@ public:
     /// The symbol stands before the text; either may be empty.
     PushButton(const QString& text, const QString& symbol, Kind kind, QWidget* parent = nullptr);
 
+    /// Takes the button into use or out of use. Unlike with setEnabled, the focus stays where it is: a key
+    /// that is pressed once more must not set off whatever comes next.
+    void setUsable(bool usable);
     void setTint(Tint tint);
     void setControlSize(Size size);
     void setSymbol(const QString& symbol);
@@ -34,6 +37,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     QRectF symbolRect() const;
@@ -43,6 +47,7 @@ private:
     Tint m_tint = nullptr;
     Size m_size = Size::regular;
     Spinner* m_spinner = nullptr;
+    bool m_keepsFocus = false;
 };
 
 } // namespace ardeo

@@ -19,7 +19,7 @@ ActionHeader::ActionHeader(MainViewModel& vm, QWidget* parent) : QWidget(parent)
     connect(refresh, &QPushButton::clicked, this, [&vm] { vm.refreshAdapters(); });
     bind(
         refresh, [&vm] { return vm.isLoading.value(); },
-        [refresh](bool loading) { refresh->setDisabled(loading); });
+        [refresh](bool loading) { refresh->setUsable(!loading); });
     row->addWidget(refresh);
 
     auto* apply = new PushButton(QString(), QString(), PushButton::Kind::prominent);
@@ -32,7 +32,7 @@ ActionHeader::ActionHeader(MainViewModel& vm, QWidget* parent) : QWidget(parent)
         [&vm] {
             return !vm.isApplying.value() && !vm.isLoading.value() && vm.selectedAdapter.value().has_value();
         },
-        [apply](bool possible) { apply->setEnabled(possible); });
+        [apply](bool possible) { apply->setUsable(possible); });
     bind(
         apply, [&vm] { return vm.isApplying.value(); },
         [apply](bool applying) {

@@ -146,7 +146,7 @@ QWidget* makeEnableButton(MainViewModel& vm, Observed<bool>& showDisableConfirm)
     });
     bind(
         button, [&vm] { return !vm.isApplying.value() && vm.selectedAdapter.value().has_value(); },
-        [button](bool possible) { button->setEnabled(possible); });
+        [button](bool possible) { button->setUsable(possible); });
     QObject::connect(button, &QPushButton::clicked, button, [&vm, &showDisableConfirm, enabled] {
         if (enabled())
             showDisableConfirm = true;

@@ -176,7 +176,7 @@ QWidget* LeftPanel::makeBottomBar()
     });
     bind(
         save, [this] { return vm.selectedAdapter.value().has_value(); },
-        [save](bool any) { save->setEnabled(any); });
+        [save](bool any) { save->setUsable(any); });
     row->addWidget(save);
     row->addStretch();
 
@@ -193,7 +193,7 @@ QWidget* LeftPanel::makeBottomBar()
     connect(exportButton, &QPushButton::clicked, this, [this] { vm.exportPresets(); });
     bind(
         exportButton, [this] { return hasPresets(); },
-        [exportButton](bool any) { exportButton->setEnabled(any); });
+        [exportButton](bool any) { exportButton->setUsable(any); });
     return bar;
 }
 

@@ -138,7 +138,7 @@ QWidget* makeFeedback(MainViewModel& vm)
     auto* revert = new PushButton(QStringLiteral("Revert"), QString(), PushButton::Kind::bordered);
     QObject::connect(revert, &QPushButton::clicked, revert, [&vm] { vm.revertForm(); });
     bind(
-        revert, [&vm] { return vm.hasChanges(); }, [revert](bool changed) { revert->setEnabled(changed); });
+        revert, [&vm] { return vm.hasChanges(); }, [revert](bool changed) { revert->setUsable(changed); });
     row->addWidget(revert);
 
     auto* renew = new PushButton(QStringLiteral("Renew DHCP"), QStringLiteral("arrow.triangle.2.circlepath"),
@@ -150,7 +150,7 @@ QWidget* makeFeedback(MainViewModel& vm)
         [&vm] {
             return !vm.isApplying.value() && !vm.isLoading.value() && vm.selectedAdapter.value().has_value();
         },
-        [renew](bool possible) { renew->setEnabled(possible); });
+        [renew](bool possible) { renew->setUsable(possible); });
     bind(
         renew, [&vm] { return vm.currentConfig.value().ipv4Mode == IPv4Mode::dhcp; },
         [renew](bool leased) { renew->setVisible(leased); });
