@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace ardeo
 {
@@ -68,18 +69,25 @@ IPAddressField::IPAddressField(Observed<Text>& value, const QString& placeholder
         row->addWidget(octet);
     }
     syncPartsFromValue(false);
+    // What else the assignment fills in that made the field appear is no change of it.
+    afterAssignment([this] { syncPartsFromValue(false); });
     // The write-back of a normalised value must not fall into the middle of the assignment that changed it.
-    m_valueNotifier = m_value.addNotifier([this] {
-        if (std::exchange(m_changePending, true))
-            return;
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                m_changePending = false;
-                handleValueChange(m_value.value());
-            },
-            Qt::QueuedConnection);
-    });
+    m_valueNotifier =
+        m_value.addNotifier([this] { afterAssignment([this] { handleValueChange(m_value.value()); }); });
+}
+
+template <typename Action>
+void IPAddressField::afterAssignment(Action action)
+{
+    if (std::exchange(m_changePending, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this, action] {
+            m_changePending = false;
+            action();
+        },
+        Qt::QueuedConnection);
 }
 
 QString IPAddressField::partPlaceholder(int i) const

@@ -33,6 +33,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Acts when the assignment under way is over, unless something waits for that already.
+    template <typename Action>
+    void afterAssignment(Action action);
     void syncPartsFromValue(bool observed);
     void setPart(int i, const QString& text);
     void handlePartChange(int i, const QString& text);
