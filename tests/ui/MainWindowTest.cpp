@@ -1,6 +1,8 @@
 #include "app/Ardeo_IPConfigApp.h"
 #include "app/MenuBarMenuView.h"
+#include "backend/Errors.h"
 #include "fakes/Fakes.h"
+#include "platform/AdvisoryLock.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "ui/NeuralNetworkBackground.h"
 #include "ui/elements/Controls.h"
@@ -21,6 +23,8 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <fcntl.h>
 
 using namespace ardeo;
 using namespace std::chrono_literals;
@@ -112,6 +116,21 @@ private Q_SLOTS:
         style->setReducedMotion(true); // so that nobody waits for a transition
         QApplication::setStyle(style);
         QApplication::setPalette(look::palette(ColorScheme::light));
+    }
+
+    void whoHoldsTheLockIsTold()
+    {
+        Window w;
+        AdvisoryLock lock(w.folder.filePath(u"machine.json.lock"_s), O_RDWR | O_CREAT,
+                          [](const std::optional<LockHolder>&) {});
+        QCOMPARE(lock.take(false), SystemStatus::ok);
+        w.click("Apply");
+        QTRY_VERIFY([&] {
+            w.clock->advance(500ms);
+            return w.shows(qPrintable(waitingDescription({.processID = QCoreApplication::applicationPid()})));
+        }());
+        lock.release();
+        QTRY_VERIFY(!w.model->waitsFor.value());
     }
 
     void octetsTakeWhatIsTyped()

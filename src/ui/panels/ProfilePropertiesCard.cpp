@@ -1,5 +1,6 @@
 #include "ui/panels/ProfilePropertiesCard.h"
 
+#include "backend/Errors.h"
 #include "ui/elements/Binding.h"
 #include "ui/elements/Controls.h"
 #include "ui/elements/FormRow.h"
@@ -7,6 +8,7 @@
 #include "ui/elements/IconLabel.h"
 #include "ui/elements/PushButton.h"
 #include "ui/elements/Stack.h"
+#include "ui/elements/TextLabel.h"
 #include "ui/elements/UnfoldingSection.h"
 
 #include <QButtonGroup>
@@ -165,6 +167,16 @@ QWidget* makeFeedback(MainViewModel& vm)
         [applied](bool success) { fade(applied, success); });
     row->addWidget(applied);
     row->addStretch(1);
+
+    auto* waiting = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::secondary, feedback);
+    waiting->setWordWrap(true);
+    bind(
+        waiting, [&vm] { return vm.waitsFor.value(); },
+        [waiting](const std::optional<LockHolder>& holder) {
+            waiting->setText(holder ? waitingDescription(*holder) : QString());
+            waiting->setVisible(holder.has_value());
+        });
+    stack->addWidget(waiting);
 
     auto* error = new IconLabel(
         QStringLiteral("exclamationmark.triangle.fill"), [](const Colours& colours) { return colours.red; },
