@@ -1,7 +1,7 @@
 #pragma once
 
 #include "backend/Text.h"
-#include "platform/SystemConfiguration.h"
+#include "platform/ProtocolConfiguration.h"
 
 #include <exception>
 
@@ -62,9 +62,11 @@ public:
         return {Case::protocolUnavailable,
                 QStringLiteral("Protocol ") + name + QStringLiteral(" unavailable.")};
     }
-    static ConfigError commitFailed(qint32 code)
+    static ConfigError commitFailed(qint32 code, std::optional<SettingFault> fault = {})
     {
-        return {Case::commitFailed, QStringLiteral("Cannot save changes (SC %1).").arg(code)};
+        ConfigError error{Case::commitFailed, QStringLiteral("Cannot save changes (SC %1).").arg(code)};
+        error.m_fault = std::move(fault);
+        return error;
     }
     static ConfigError applyFailed(qint32 code)
     {
@@ -76,6 +78,8 @@ public:
     }
 
     Case errorCase() const { return m_case; }
+    /// Which value was refused and why, where that is the reason.
+    const std::optional<SettingFault>& fault() const { return m_fault; }
 
 private:
     ConfigError(Case errorCase, const QString& description) : DescribedError(description), m_case(errorCase)
@@ -83,6 +87,7 @@ private:
     }
 
     Case m_case;
+    std::optional<SettingFault> m_fault;
 };
 
 /// Why an administrator's consent was not obtained.

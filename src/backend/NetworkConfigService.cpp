@@ -1,6 +1,7 @@
 #include "backend/NetworkConfigService.h"
 
 #include "backend/Errors.h"
+#include "platform/ProtocolConfiguration.h"
 
 #include <QPromise>
 
@@ -327,10 +328,22 @@ private:
     Preferences& m_preferences;
 };
 
-/// The authorized, locked transaction around a change of one service.
-template <typename Change>
+/// What no system can take in the part of the configuration that is named, or in all of it.
+std::optional<SettingFault> faultOf(const NetworkAdapterInfo& configuration, std::optional<Settings> named)
+{
+    const bool hasIPv4 = !named || !ipv4Changes(configuration, *named).isEmpty();
+    const bool hasDNS = !named || !dnsChanges(configuration, *named).isEmpty();
+    auto fault = hasIPv4 ? checkedIPv4(ipv4Dictionary(configuration)).fault() : std::nullopt;
+    if (!fault && hasDNS)
+        fault = checkedDNS(dnsDictionary(configuration)).fault();
+    return fault;
+}
+
+/// The authorized, locked transaction around a change of one service. Where its settings are refused, faultIn
+/// says what is wrong with them.
+template <typename Change, typename FaultIn>
 void changeService(SystemConfiguration& system, const Text& name, AuthorizationRef authorization,
-                   Change change)
+                   Change change, FaultIn faultIn)
 {
     const auto preferences = system.createPreferencesWithAuthorization(clientName, authorization);
     if (!preferences)
@@ -339,8 +352,10 @@ void changeService(SystemConfiguration& system, const Text& name, AuthorizationR
         throw ConfigError::lockFailed(system.error());
     const HeldLock lock(*preferences);
     change(*findService(name, *preferences));
-    if (!preferences->commitChanges())
-        throw ConfigError::commitFailed(system.error());
+    if (!preferences->commitChanges()) {
+        const bool isInvalid = system.error() == static_cast<qint32>(SystemStatus::invalidArgument);
+        throw ConfigError::commitFailed(system.error(), isInvalid ? faultIn() : std::nullopt);
+    }
     if (!preferences->applyChanges())
         throw ConfigError::applyFailed(system.error());
 }
@@ -419,8 +434,10 @@ QFuture<void> NetworkConfigService::writeConfiguration(const Text& serviceName,
                                                        std::optional<Settings> named)
 {
     return run([this, serviceName, configuration, authorization, named](Opened&) {
-        changeService(m_system, serviceName, authorization,
-                      [&](const NetworkService& service) { writeTo(service, configuration, named); });
+        changeService(
+            m_system, serviceName, authorization,
+            [&](const NetworkService& service) { writeTo(service, configuration, named); },
+            [&] { return faultOf(configuration, named); });
     });
 }
 
@@ -428,8 +445,9 @@ QFuture<void> NetworkConfigService::setServiceEnabled(bool enabled, const Text& 
                                                       AuthorizationRef authorization)
 {
     return run([this, enabled, serviceName, authorization](Opened&) {
-        changeService(m_system, serviceName, authorization,
-                      [enabled](NetworkService& service) { service.setEnabled(enabled); });
+        changeService(
+            m_system, serviceName, authorization,
+            [enabled](NetworkService& service) { service.setEnabled(enabled); }, [] { return std::nullopt; });
     });
 }
 

@@ -193,8 +193,10 @@ private:
     QByteArray act(QCoro::Task<> action)
     {
         QCoro::waitFor(action);
-        if (const auto error = m_model->applyError.value())
-            fail(*error);
+        if (const auto error = m_model->applyError.value()) {
+            const auto fault = m_model->applyFault.value();
+            fail(fault ? error->string() + u'\n' + fault->reason : error->string());
+        }
         throwTrouble();
         return shown();
     }

@@ -10,7 +10,7 @@ namespace ardeo
 struct Outcome {
     int status = 0;
     QByteArray output;
-    /// One line for standard error, without the line break.
+    /// What goes to standard error, without the last line break.
     QString error;
     /// Whether something was changed, so that the command has succeeded even if nobody can read its output.
     bool changed = false;

@@ -110,8 +110,7 @@ QCoro::Task<> MainViewModel::selectAdapter(AdapterInfo adapter)
 {
     const auto self = shared_from_this();
     selectedAdapter = adapter;
-    applyError = std::nullopt;
-    applySuccess = false;
+    clearFeedback();
     co_await loadCurrentConfig(adapter);
 }
 
@@ -151,8 +150,7 @@ void MainViewModel::loadPreset(const NetworkPreset& preset)
 void MainViewModel::revertForm()
 {
     populateForm(currentConfig.value());
-    applyError = std::nullopt;
-    applySuccess = false;
+    clearFeedback();
 }
 
 QCoro::Task<> MainViewModel::applyConfiguration(std::optional<Settings> named)
@@ -203,6 +201,19 @@ QCoro::Task<> MainViewModel::setAdapterEnabled(bool enabled)
         isApplying = false;
 }
 
+void MainViewModel::clearFeedback()
+{
+    applyError = std::nullopt;
+    applyFault = std::nullopt;
+    applySuccess = false;
+}
+
+void MainViewModel::tellError(const QString& sentence, const std::optional<SettingFault>& fault)
+{
+    applyFault = fault;
+    applyError = Text(sentence);
+}
+
 /// Obtains the right, makes the change, and refreshes when the network has had time to settle. False when
 /// that failed, which applyError says, and where no service is selected.
 QCoro::Task<bool> MainViewModel::carryOut(Change change, std::chrono::milliseconds settlingTime)
@@ -212,13 +223,13 @@ QCoro::Task<bool> MainViewModel::carryOut(Change change, std::chrono::millisecon
     if (!adapter)
         co_return false;
     isApplying = true;
-    applyError = std::nullopt;
-    applySuccess = false;
+    clearFeedback();
     try {
         const QLatin1String right(adapter->isPersonal ? personalNetworkRight : systemNetworkRight);
         co_await change(adapter->serviceName, authService.authorize(right));
     } catch (const DescribedError& error) {
-        applyError = Text(error.errorDescription());
+        const auto* refusal = dynamic_cast<const ConfigError*>(&error);
+        tellError(error.errorDescription(), refusal ? refusal->fault() : std::nullopt);
         authService.invalidate();
         isApplying = false;
         co_return false;
@@ -292,7 +303,7 @@ void MainViewModel::importPresets()
     if (presets)
         presetStore.upsertAll(*presets);
     else
-        applyError = Text(QStringLiteral("Could not read profiles file."));
+        tellError(QStringLiteral("Could not read profiles file."));
 }
 
 void MainViewModel::toggleLoginItem()
@@ -300,7 +311,7 @@ void MainViewModel::toggleLoginItem()
     LoginItem& item = *m_platform.loginItem;
     const auto failure = isLoginItem.value() ? item.unregisterItem() : item.registerItem();
     if (failure)
-        applyError = Text(QStringLiteral("Start at login: ") + *failure);
+        tellError(QStringLiteral("Start at login: ") + *failure);
     isLoginItem = item.status() == LoginItem::Status::enabled;
 }
 

@@ -4,6 +4,7 @@
 #include "backend/NetworkConfigService.h"
 #include "model/Observed.h"
 #include "platform/Platform.h"
+#include "platform/ProtocolConfiguration.h"
 #include "store/NetworkPresetStore.h"
 
 #include <QCoroTask>
@@ -50,6 +51,8 @@ public:
     Observed<bool> isApplying{false};
     /// The last failed action's sentence for the user.
     Observed<std::optional<Text>> applyError;
+    /// Which value of it was refused and why, where that is what it failed for.
+    Observed<std::optional<SettingFault>> applyFault;
     Observed<bool> applySuccess{false};
     /// The program that keeps the running action waiting, once it has done so for half a second.
     Observed<std::optional<LockHolder>> waitsFor;
@@ -107,6 +110,8 @@ private:
     template <typename Settings>
     void fillForm(const Settings& settings, const Text& domains);
     QCoro::Task<> write(NetworkAdapterInfo configuration, std::optional<Settings> named);
+    void clearFeedback();
+    void tellError(const QString& sentence, const std::optional<SettingFault>& fault = {});
     QCoro::Task<bool> carryOut(Change change, std::chrono::milliseconds settlingTime);
     QCoro::Task<> scheduleFollowUpRefresh();
     QCoro::Task<> noteWaiting(std::optional<LockHolder> holder);

@@ -14,12 +14,62 @@ bool holdsOnlyDots(const QString& text)
     return std::ranges::all_of(text, [](QChar c) { return c == u'.'; });
 }
 
-/// An address that a host can have: not the unspecified one, no loopback, multicast or broadcast address.
-bool isHostAddress(const QString& text)
+/// Whether a host can have the address: it is not the unspecified one, no loopback, multicast or broadcast
+/// address.
+bool isHostAddress(IPv4Number number)
 {
-    const auto number = ipv4FromText(text);
-    return number && *number >> 24 != 0 && *number >> 24 != 127 && *number >> 28 != 0xE &&
-           *number != 0xFFFFFFFF;
+    return number >> 24 != 0 && number >> 24 != 127 && number >> 28 != 0xE && number != 0xFFFFFFFF;
+}
+
+/// Whether some of the four parts are there, but not all.
+bool isIncomplete(const QString& text)
+{
+    const QStringList parts = text.split(u'.');
+    const bool plain =
+        std::ranges::all_of(text, [](QChar c) { return c == u'.' || (c >= u'0' && c <= u'9'); });
+    return plain && parts.size() <= 4 && (parts.size() < 4 || parts.contains(QString()));
+}
+
+/// What is wrong with a text that is no IPv4 address, or none that the thing can have.
+SettingFault addressFault(SettingFault::Setting setting, const QString& name, const QString& text)
+{
+    const auto reason = [&] {
+        if (holdsOnlyDots(text))
+            return QStringLiteral("%1 is missing.").arg(name);
+        if (isIncomplete(text))
+            return QStringLiteral("%1 is not complete.").arg(name);
+        if (!ipv4FromText(text))
+            return QStringLiteral("%1 is not an IPv4 address.").arg(text);
+        return QStringLiteral("%1 cannot be the address of a computer.").arg(text);
+    };
+    return {setting, text, reason()};
+}
+
+SettingFault maskFault(const QString& mask)
+{
+    const SettingFault fault =
+        addressFault(SettingFault::Setting::subnetMask, QStringLiteral("The subnet mask"), mask);
+    const bool says = holdsOnlyDots(mask) || isIncomplete(mask);
+    return says ? fault
+                : SettingFault{fault.setting, mask, QStringLiteral("%1 is not a subnet mask.").arg(mask)};
+}
+
+/// What is wrong with an address in a network of that prefix; none when it is a host's.
+std::optional<SettingFault> hostFault(const QString& address, int prefix)
+{
+    const auto number = ipv4FromText(address);
+    if (!number || !isHostAddress(*number))
+        return addressFault(SettingFault::Setting::address, QStringLiteral("The IP address"), address);
+    // The two addresses of a network between two computers are theirs, and so is the one of a single
+    // computer.
+    const IPv4Number hostBits = prefix >= 31 ? 0 : ~IPv4Number(0) >> prefix;
+    if (hostBits != 0 && (*number & hostBits) == 0)
+        return SettingFault{SettingFault::Setting::address, address,
+                            QStringLiteral("%1 is the address of the network itself.").arg(address)};
+    if (hostBits != 0 && (*number & hostBits) == hostBits)
+        return SettingFault{SettingFault::Setting::address, address,
+                            QStringLiteral("%1 is the broadcast address of the network.").arg(address)};
+    return std::nullopt;
 }
 
 /// Absent is an empty list; a value of another kind is none.
@@ -77,43 +127,56 @@ QString maskFromPrefix(int prefix)
     return ipv4ToText(prefix <= 0 ? 0 : ~IPv4Number(0) << (32 - prefix));
 }
 
-std::optional<IPv4Configuration> checkedIPv4(const Dictionary& dictionary)
+Checked<IPv4Configuration> checkedIPv4(const Dictionary& dictionary)
 {
+    using Setting = SettingFault::Setting;
     const QVariant method = dictionary.value(QStringLiteral("ConfigMethod"));
     if (method == QVariant(QStringLiteral("DHCP")))
         return IPv4Configuration{};
     if (method != QVariant(QStringLiteral("Manual")))
-        return std::nullopt;
+        return SettingFault{Setting::method, method.toString(),
+                            QStringLiteral("The addresses are set neither by DHCP nor by hand.")};
 
     const auto addresses = texts(dictionary, QStringLiteral("Addresses"));
     const auto masks = texts(dictionary, QStringLiteral("SubnetMasks"));
-    if (!addresses || !masks || addresses->isEmpty() || addresses->size() != masks->size())
-        return std::nullopt;
+    if (!addresses || addresses->isEmpty())
+        return addressFault(Setting::address, QStringLiteral("The IP address"), {});
+    if (!masks || addresses->size() != masks->size())
+        return maskFault({});
     IPv4Configuration configuration{.manual = true, .addresses = {}, .router = {}};
     for (qsizetype i = 0; i < addresses->size(); ++i) {
         const auto prefix = prefixFromMask(masks->at(i));
-        if (!isHostAddress(addresses->at(i)) || !prefix)
-            return std::nullopt;
+        if (auto fault = hostFault(addresses->at(i), prefix.value_or(32)))
+            return *fault;
+        if (!prefix)
+            return maskFault(masks->at(i));
         configuration.addresses.append({addresses->at(i), *prefix});
     }
 
-    const QVariant router = dictionary.value(QStringLiteral("Router"));
-    if (router.isValid() && router.typeId() != QMetaType::QString)
-        return std::nullopt;
-    if (!holdsOnlyDots(router.toString())) {
-        if (!isHostAddress(router.toString()))
-            return std::nullopt;
-        configuration.router = router.toString();
-    }
+    const QVariant given = dictionary.value(QStringLiteral("Router"));
+    const QString gateway = given.toString();
+    const bool isText = !given.isValid() || given.typeId() == QMetaType::QString;
+    if (isText && holdsOnlyDots(gateway))
+        return configuration;
+    const auto number = ipv4FromText(gateway);
+    if (!isText || !number || !isHostAddress(*number))
+        return addressFault(Setting::router, QStringLiteral("The gateway"), gateway);
+    if (addresses->contains(gateway))
+        return SettingFault{Setting::router, gateway, QStringLiteral("The gateway is the address itself.")};
+    configuration.router = gateway;
     return configuration;
 }
 
-std::optional<DNSConfiguration> checkedDNS(const Dictionary& dictionary)
+Checked<DNSConfiguration> checkedDNS(const Dictionary& dictionary)
 {
+    using Setting = SettingFault::Setting;
     const auto servers = texts(dictionary, QStringLiteral("ServerAddresses"));
     const auto domains = texts(dictionary, QStringLiteral("SearchDomains"));
-    if (!servers || !domains)
-        return std::nullopt;
+    if (!servers)
+        return addressFault(Setting::dnsServer, QStringLiteral("The DNS server"), {});
+    if (!domains)
+        return SettingFault{
+            Setting::searchDomain, {}, QStringLiteral("The search domains are not a list of names.")};
     DNSConfiguration configuration;
     for (const QString& server : *servers) {
         if (holdsOnlyDots(server))
@@ -121,14 +184,15 @@ std::optional<DNSConfiguration> checkedDNS(const Dictionary& dictionary)
         const auto number = ipv4FromText(server);
         // A resolver on this very machine (127.0.0.1) is a server like any other.
         if (!number || *number == 0 || *number >> 28 >= 0xE)
-            return std::nullopt;
+            return addressFault(Setting::dnsServer, QStringLiteral("The DNS server"), server);
         configuration.serverAddresses.append(server);
     }
     for (const QString& domain : *domains) {
         const bool breaksTheResolverFile = std::ranges::any_of(
             domain, [](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; });
         if (domain.isEmpty() || breaksTheResolverFile)
-            return std::nullopt;
+            return SettingFault{Setting::searchDomain, domain,
+                                QStringLiteral("\"%1\" is not a search domain.").arg(domain.simplified())};
         configuration.searchDomains.append(domain);
     }
     return configuration;

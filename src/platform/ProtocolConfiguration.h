@@ -2,6 +2,9 @@
 
 #include "platform/SystemConfiguration.h"
 
+#include <utility>
+#include <variant>
+
 namespace ardeo
 {
 
@@ -16,6 +19,38 @@ QString ipv4ToText(IPv4Number number);
 std::optional<int> prefixFromMask(const QString& mask);
 /// The dotted mask with that many leading one bits, 0 to 32.
 QString maskFromPrefix(int prefix);
+
+/// A value that no system can take.
+struct SettingFault {
+    enum class Setting { method, address, subnetMask, router, dnsServer, searchDomain };
+    Setting setting;
+    /// The value's text; empty where it has none.
+    QString value;
+    /// What is wrong with it, as a sentence for the user.
+    QString reason;
+    bool operator==(const SettingFault&) const = default;
+};
+
+/// What a check came to: the configuration that is asked for, or the first fault in it.
+template <typename Configuration>
+class Checked
+{
+public:
+    Checked(Configuration configuration) : m_result(std::move(configuration)) {}
+    Checked(SettingFault fault) : m_result(std::move(fault)) {}
+
+    explicit operator bool() const { return std::holds_alternative<Configuration>(m_result); }
+    const Configuration& operator*() const { return std::get<Configuration>(m_result); }
+    const Configuration* operator->() const { return &std::get<Configuration>(m_result); }
+    std::optional<SettingFault> fault() const
+    {
+        const auto* found = std::get_if<SettingFault>(&m_result);
+        return found ? std::optional(*found) : std::nullopt;
+    }
+
+private:
+    std::variant<Configuration, SettingFault> m_result;
+};
 
 /// What an "IPv4" dictionary asks for, checked.
 struct IPv4Configuration {
@@ -34,13 +69,12 @@ struct DNSConfiguration {
     QStringList searchDomains;
 };
 
-/// None when the dictionary holds something that no system can take: a malformed address, a mask that is not
-/// contiguous, a method other than "DHCP" and "Manual". A router that holds nothing but dots (an editor that
-/// was cleared) counts as absent.
-std::optional<IPv4Configuration> checkedIPv4(const Dictionary& dictionary);
-/// None when a server is not an IPv4 address or a search domain could not stand
-/// in a resolver's file. A server that holds nothing
-/// but dots counts as absent.
-std::optional<DNSConfiguration> checkedDNS(const Dictionary& dictionary);
+/// A fault is what no system can take: a malformed address or one that no computer can have, a mask that is
+/// not contiguous, a gateway that is the address itself, a method other than "DHCP" and "Manual". A router
+/// that holds nothing but dots (an editor that was cleared) counts as absent.
+Checked<IPv4Configuration> checkedIPv4(const Dictionary& dictionary);
+/// A fault is a server that is not an IPv4 address, or a search domain that could not stand in a resolver's
+/// file. A server that holds nothing but dots counts as absent.
+Checked<DNSConfiguration> checkedDNS(const Dictionary& dictionary);
 
 } // namespace ardeo

@@ -27,23 +27,27 @@ private Q_SLOTS:
     void settingsAreChecked()
     {
         const struct {
-            bool accepted;
-            const char *address, *mask, *router = "", *server = "8.8.8.8";
-        } rows[]{{true, "10.0.0.2", "255.255.255.0", "10.0.0.1"},
-                 {true, "10.0.0.2", "255.255.255.255", "...", "..."},
-                 {true, "10.0.0.2", "128.0.0.0", "", "127.0.0.1"},
-                 {false, "300.1.1.1", "255.0.0.0"},
-                 {false, "", "255.0.0.0"},
-                 {false, "...", "255.0.0.0"},
-                 {false, "10.0.0", "255.0.0.0"},
-                 {false, "10.0.0.02", "255.0.0.0"},
-                 {false, "0.0.0.0", "255.0.0.0"},
-                 {false, "224.0.0.1", "255.0.0.0"},
-                 {false, "10.0.0.2", "255.0.255.0"},
-                 {false, "10.0.0.2", "0.0.0.0"},
-                 {false, "10.0.0.2", "..."},
-                 {false, "10.0.0.2", "255.0.0.0", "10.0."},
-                 {false, "10.0.0.2", "255.0.0.0", "", "fe80::1"}};
+            const char *reason, *address, *mask, *router = "", *server = "8.8.8.8";
+        } rows[]{{"", "10.0.0.2", "255.255.255.0", "10.0.0.1"},
+                 {"", "10.0.0.0", "255.255.255.255", "...", "..."},
+                 {"", "10.0.0.1", "255.255.255.254", "10.0.0.0"},
+                 {"", "10.0.0.2", "128.0.0.0", "", "127.0.0.1"},
+                 {"300.1.1.1 is not an IPv4 address.", "300.1.1.1", "255.0.0.0"},
+                 {"The IP address is missing.", "", "255.0.0.0"},
+                 {"The IP address is missing.", "...", "255.0.0.0"},
+                 {"The IP address is not complete.", "10.0.0", "255.0.0.0"},
+                 {"The IP address is not complete.", "10..0.1", "255.0.255.0"},
+                 {"10.0.0.02 is not an IPv4 address.", "10.0.0.02", "255.0.0.0"},
+                 {"0.0.0.0 cannot be the address of a computer.", "0.0.0.0", "255.0.0.0"},
+                 {"224.0.0.1 cannot be the address of a computer.", "224.0.0.1", "255.0.0.0"},
+                 {"10.0.0.0 is the address of the network itself.", "10.0.0.0", "255.255.255.252"},
+                 {"10.0.0.3 is the broadcast address of the network.", "10.0.0.3", "255.255.255.252"},
+                 {"255.0.255.0 is not a subnet mask.", "10.0.0.2", "255.0.255.0"},
+                 {"0.0.0.0 is not a subnet mask.", "10.0.0.2", "0.0.0.0"},
+                 {"The subnet mask is missing.", "10.0.0.2", "..."},
+                 {"The gateway is not complete.", "10.0.0.2", "255.0.0.0", "10.0."},
+                 {"The gateway is the address itself.", "10.0.0.2", "255.0.0.0", "10.0.0.2"},
+                 {"fe80::1 is not an IPv4 address.", "10.0.0.2", "255.0.0.0", "", "fe80::1"}};
         for (const auto& row : rows) {
             const auto list = [](const char* text) { return QStringList(QLatin1String(text)); };
             const auto ipv4 = checkedIPv4({{u"ConfigMethod"_s, u"Manual"_s},
@@ -51,7 +55,8 @@ private Q_SLOTS:
                                            {u"SubnetMasks"_s, list(row.mask)},
                                            {u"Router"_s, QLatin1String(row.router)}});
             const auto dns = checkedDNS({{u"ServerAddresses"_s, list(row.server)}});
-            QVERIFY2((ipv4 && dns) == row.accepted, row.address);
+            const auto fault = ipv4 ? dns.fault() : ipv4.fault();
+            QCOMPARE(fault.value_or(SettingFault()).reason, QLatin1String(row.reason));
         }
         QVERIFY(!checkedDNS({{u"SearchDomains"_s, QStringList(u"a\nnameserver 6.6.6.6"_s)}}));
     }

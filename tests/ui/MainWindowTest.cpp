@@ -118,6 +118,28 @@ private Q_SLOTS:
         QApplication::setPalette(look::palette(ColorScheme::light));
     }
 
+    void whatIsWrongIsToldAndMarked()
+    {
+        Window w;
+        w.model->ipv4Mode = IPv4Mode::manual;
+        w.model->subnetMask = Text(u"255.0.0.0"_s);
+        w.model->ipAddress = Text(u"10.0.0.2"_s);
+        w.model->router = Text(u"10.0.0.2"_s);
+        w.click("Apply");
+        w.finish();
+        const char* reason = "The gateway is the address itself.";
+        QVERIFY(w.shows("Cannot save changes (SC 1002).") && w.shows(reason));
+        const auto described = [&](const char* field) {
+            return w.field(field)->octet(0)->accessibleDescription();
+        };
+        QCOMPARE(described("Gateway"), QLatin1String(reason));
+        QVERIFY(described("IP Address").isEmpty());
+        w.model->router = Text(u"10.0.0.1"_s);
+        QVERIFY(described("Gateway").isEmpty() && w.shows(reason));
+        w.click("Revert");
+        QVERIFY(!w.shows(reason));
+    }
+
     void whoHoldsTheLockIsTold()
     {
         Window w;

@@ -90,6 +90,14 @@ void IPAddressField::afterAssignment(Action action)
         Qt::QueuedConnection);
 }
 
+void IPAddressField::setFault(const std::optional<QString>& reason)
+{
+    m_isFaulty = reason.has_value();
+    for (QLineEdit* octet : m_octets)
+        octet->setAccessibleDescription(reason.value_or(QString()));
+    update();
+}
+
 QString IPAddressField::partPlaceholder(int i) const
 {
     return m_placeholder.split(u'.').value(i, QStringLiteral("0"));
@@ -176,7 +184,8 @@ void IPAddressField::paintEvent(QPaintEvent*)
     const QRectF area = look::deviceAligned(this, rect());
     painter.fillPath(look::continuousRect(area, 6), colours.textBackground);
     const bool active = focused().has_value();
-    look::strokeInside(painter, area, 6, active ? colours.teal : colours.separator, active ? 2 : 0.5);
+    const QColor edge = active ? colours.teal : colours.separator;
+    look::strokeInside(painter, area, 6, m_isFaulty ? colours.red : edge, active || m_isFaulty ? 2 : 0.5);
 }
 
 } // namespace ardeo

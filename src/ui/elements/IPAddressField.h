@@ -25,6 +25,8 @@ public:
 
     /// The hint of a part, 0 to 3.
     QString partPlaceholder(int i) const;
+    /// Marks the value as refused for that reason, or as fine.
+    void setFault(const std::optional<QString>& reason);
     const std::array<QString, 4>& currentParts() const { return parts; }
     QLineEdit* octet(int i) const { return m_octets.at(static_cast<size_t>(i)); }
 
@@ -49,6 +51,7 @@ private:
     std::array<QLineEdit*, 4> m_octets{};
     QPropertyNotifier m_valueNotifier;
     bool m_changePending = false;
+    bool m_isFaulty = false;
 };
 
 } // namespace ardeo

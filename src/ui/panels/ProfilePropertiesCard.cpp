@@ -59,18 +59,34 @@ struct AddressRow {
     QString label;
     Observed<Text>& value;
     QString placeholder;
+    SettingFault::Setting setting;
 };
+
+/// The field is marked for as long as it holds what was refused.
+QWidget* makeAddressRow(MainViewModel& vm, const AddressRow& row)
+{
+    auto* field = new IPAddressField(row.value, row.placeholder, row.label);
+    bind(
+        field,
+        [&vm, row] {
+            const auto fault = vm.applyFault.value();
+            const bool isHere =
+                fault && fault->setting == row.setting && row.value.value() == Text(fault->value);
+            return isHere ? std::optional(fault->reason) : std::nullopt;
+        },
+        [field](const std::optional<QString>& reason) { field->setFault(reason); });
+    return new FormRow(row.label, field);
+}
 
 /// Rows with an address field each, that unfold while the condition holds.
 template <typename Condition>
-QWidget* addressRows(Condition condition, std::vector<AddressRow> rows)
+QWidget* addressRows(MainViewModel& vm, Condition condition, std::vector<AddressRow> rows)
 {
-    auto* section = new UnfoldingSection(8, 20, [rows = std::move(rows)] {
+    auto* section = new UnfoldingSection(8, 20, [&vm, rows = std::move(rows)] {
         auto* content = new QWidget;
         auto* stack = columnIn(content, 6);
         for (const AddressRow& row : rows)
-            stack->addWidget(
-                new FormRow(row.label, new IPAddressField(row.value, row.placeholder, row.label)));
+            stack->addWidget(makeAddressRow(vm, row));
         return content;
     });
     bind(section, condition, [section](bool shown) { section->setShown(shown); });
@@ -110,11 +126,13 @@ QWidget* makeIPv4Section(MainViewModel& vm)
     auto* stack = columnIn(section, 0);
     stack->addWidget(radioGroup(vm.ipv4Mode, QStringLiteral("IP Address"),
                                 {"Automatically Set IP Address", "Manually Set IP Address"}));
-    stack->addWidget(
-        addressRows([&vm] { return vm.ipv4Mode.value() == IPv4Mode::manual; },
-                    {{QStringLiteral("IP Address:"), vm.ipAddress, QStringLiteral("192.168.1.100")},
-                     {QStringLiteral("Subnet Mask:"), vm.subnetMask, QStringLiteral("255.255.255.0")},
-                     {QStringLiteral("Gateway:"), vm.router, QStringLiteral("192.168.1.1")}}));
+    stack->addWidget(addressRows(vm, [&vm] { return vm.ipv4Mode.value() == IPv4Mode::manual; },
+                                 {{QStringLiteral("IP Address:"), vm.ipAddress,
+                                   QStringLiteral("192.168.1.100"), SettingFault::Setting::address},
+                                  {QStringLiteral("Subnet Mask:"), vm.subnetMask,
+                                   QStringLiteral("255.255.255.0"), SettingFault::Setting::subnetMask},
+                                  {QStringLiteral("Gateway:"), vm.router, QStringLiteral("192.168.1.1"),
+                                   SettingFault::Setting::router}}));
     return section;
 }
 
@@ -124,10 +142,11 @@ QWidget* makeDNSSection(MainViewModel& vm)
     auto* stack = columnIn(section, 0);
     stack->addWidget(radioGroup(vm.dnsMode, QStringLiteral("DNS"),
                                 {"Automatically Set DNS Address", "Manually Set DNS Address"}));
-    stack->addWidget(
-        addressRows([&vm] { return vm.dnsMode.value() == DNSMode::manual; },
-                    {{QStringLiteral("Preferred DNS:"), vm.primaryDNS, QStringLiteral("8.8.8.8")},
-                     {QStringLiteral("Alternate DNS:"), vm.alternateDNS, QStringLiteral("8.8.4.4")}}));
+    stack->addWidget(addressRows(vm, [&vm] { return vm.dnsMode.value() == DNSMode::manual; },
+                                 {{QStringLiteral("Preferred DNS:"), vm.primaryDNS, QStringLiteral("8.8.8.8"),
+                                   SettingFault::Setting::dnsServer},
+                                  {QStringLiteral("Alternate DNS:"), vm.alternateDNS,
+                                   QStringLiteral("8.8.4.4"), SettingFault::Setting::dnsServer}}));
     return section;
 }
 
@@ -188,6 +207,15 @@ QWidget* makeFeedback(MainViewModel& vm)
             error->setVisible(message.has_value());
         });
     stack->addWidget(error);
+    auto* reason = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::secondary, feedback);
+    reason->setWordWrap(true);
+    bind(
+        reason, [&vm] { return vm.applyFault.value(); },
+        [reason](const std::optional<SettingFault>& fault) {
+            reason->setText(fault ? fault->reason : QString());
+            reason->setVisible(fault.has_value());
+        });
+    stack->addWidget(reason);
     return feedback;
 }
 
