@@ -2,6 +2,7 @@
 
 #include "app/Notice.h"
 #include "platform/linux/desktop/X11Desktop.h"
+#include "ui/elements/SystemWords.h"
 
 #include <QApplication>
 #include <QBackingStore>
@@ -54,9 +55,9 @@ void AppDelegate::hideMainWindow()
     mainWindow->showMinimized();
     if (std::exchange(m_hasExplained, true))
         return;
-    showNotice(
-        QStringLiteral("Ardeo IP Config is still running. This desktop shows no menu bar icons, so its "
-                       "window was minimised instead of hidden. Ctrl+Q ends the program."));
+    showNotice(QStringLiteral("Ardeo IP Config is still running. This desktop shows no tray icons, so its "
+                              "window was minimised instead of hidden. %1 ends the program.")
+                   .arg(keys::text(keys::quit)));
 }
 
 void AppDelegate::hide()

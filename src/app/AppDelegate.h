@@ -8,14 +8,14 @@
 namespace ardeo
 {
 
-/// How the program shows itself on the desktop: with its windows, or with its menu bar icon alone. Closing
+/// How the program shows itself on the desktop: with its windows, or with its tray icon alone. Closing
 /// the main window never ends it.
 class AppDelegate final
 {
 public:
     /// The window that showMainWindow brings back; null until there is one, and when it is destroyed.
     QPointer<QWidget> mainWindow;
-    /// Whether the desktop shows the menu bar icon, without which a hidden program would be lost.
+    /// Whether the desktop shows the tray icon, without which a hidden program would be lost.
     std::function<bool()> hasMenuBarExtra = [] { return false; };
 
     /// Shows the program as one with windows.
@@ -25,7 +25,7 @@ public:
     /// Brings the main window to the front, from wherever it is.
     void showMainWindow() const;
     /// Takes the main window off the screen and the program out of the task switcher. On a desktop that has
-    /// no place for the menu bar icon the window is minimised instead, and the first time this says why.
+    /// no place for the tray icon the window is minimised instead, and the first time this says why.
     void hideMainWindow();
     /// Minimises all windows of the program.
     static void hide();

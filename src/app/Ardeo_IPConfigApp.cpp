@@ -3,6 +3,7 @@
 #include "app/MainMenu.h"
 #include "app/Notice.h"
 #include "app/WindowHider.h"
+#include "ui/elements/SystemWords.h"
 #include "ui/windows/ContentView.h"
 #include "ui/windows/HelpView.h"
 #include "ui/windows/ShortcutsView.h"
@@ -27,8 +28,7 @@ constexpr int aboutIconSize = 64;
 void fillWindow(QMainWindow& window, QWidget* content)
 {
     window.setCentralWidget(content);
-    QObject::connect(new QShortcut(Qt::CTRL | Qt::Key_W, &window), &QShortcut::activated, &window,
-                     &QWidget::close);
+    QObject::connect(new QShortcut(keys::close, &window), &QShortcut::activated, &window, &QWidget::close);
 }
 
 /// A window beside the main one; its width is its content's.

@@ -2,6 +2,7 @@
 
 #include "app/SystemTools.h"
 #include "ui/elements/Binding.h"
+#include "ui/elements/SystemWords.h"
 #include "ui/windows/ContentView.h"
 
 #include <QApplication>
@@ -49,18 +50,18 @@ QMenuBar* makeMainMenu(const MainMenuTargets& targets)
         loginItem, [&vm] { return loginItemTitle(vm.isLoginItem.value()); },
         [loginItem](const QString& title) { loginItem->setText(title); });
     application->addSeparator();
-    addCommand(application, "Hide Ardeo IP Config", {Qt::CTRL | Qt::Key_H}, &AppDelegate::hide);
+    addCommand(application, "Hide Ardeo IP Config", {keys::hide}, &AppDelegate::hide);
     application->addSeparator();
-    addCommand(application, "Quit Ardeo IP Config", {Qt::CTRL | Qt::Key_Q}, &quit);
+    addCommand(application, "Quit Ardeo IP Config", {keys::quit}, &quit);
 
     QMenu* file = bar->addMenu(QStringLiteral("&File"));
-    addCommand(file, "Import Profiles…", {Qt::CTRL | Qt::SHIFT | Qt::Key_I}, [&vm] { vm.importPresets(); });
-    addCommand(file, "Export Profiles…", {Qt::CTRL | Qt::SHIFT | Qt::Key_E}, [&vm] { vm.exportPresets(); });
+    addCommand(file, "Import Profiles…", {keys::importProfiles}, [&vm] { vm.importPresets(); });
+    addCommand(file, "Export Profiles…", {keys::exportProfiles}, [&vm] { vm.exportPresets(); });
 
     QMenu* tools = bar->addMenu(QStringLiteral("&Tools"));
-    addCommand(tools, "Refresh", {Qt::CTRL | Qt::Key_R}, [&vm] { vm.refreshAdapters(); });
-    QAction* apply = addCommand(tools, "Apply", {Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter},
-                                [&vm] { vm.applyConfiguration(); });
+    addCommand(tools, "Refresh", {keys::refresh}, [&vm] { vm.refreshAdapters(); });
+    QAction* apply =
+        addCommand(tools, "Apply", {keys::apply, keys::applyOnKeypad}, [&vm] { vm.applyConfiguration(); });
     enableWhile(apply, [&vm] {
         return !vm.isApplying.value() && !vm.isLoading.value() && vm.selectedAdapter.value().has_value();
     });
@@ -84,7 +85,7 @@ QMenuBar* makeMainMenu(const MainMenuTargets& targets)
 
     NotificationCenter& notifications = targets.notifications;
     QMenu* help = bar->addMenu(QStringLiteral("&Help"));
-    addCommand(help, "Ardeo IP Config Help", {Qt::CTRL | Qt::Key_Slash},
+    addCommand(help, "Ardeo IP Config Help", {keys::help},
                [&notifications] { notifications.post(openHelpNotification); });
     help->addSeparator();
     addCommand(help, "Keyboard Shortcuts…", {},

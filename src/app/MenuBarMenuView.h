@@ -10,7 +10,7 @@
 namespace ardeo
 {
 
-/// The menu behind the menu bar icon: what the selected service is and has, and the ways into the program.
+/// The menu behind the tray icon: what the selected service is and has, and the ways into the program.
 /// It follows the model while it lives, and everything that it is given outlives it.
 class MenuBarMenuView final : public QMenu
 {

@@ -265,7 +265,7 @@ private Q_SLOTS:
         QVERIFY(w.find<QAbstractButton>("Enable Adapter") && w.shows("Not connected") &&
                 !w.shows("Something went wrong."));
         m.adapters = QList<AdapterInfo>();
-        QVERIFY(w.shows("No Network Services") && w.shows("No network services found on this Mac."));
+        QVERIFY(w.shows("No Network Services") && w.shows("No network services found on this computer."));
         m.isLoading = true;
         QVERIFY(!w.shows("No Network Services"));
     }
@@ -505,6 +505,24 @@ private Q_SLOTS:
         }
         w.platform.userDefaults->couldNotStore(u"Your profiles could not be saved."_s);
         QCOMPARE(closeNotices(), 1);
+    }
+
+    void textsNameThisSystemAndItsKeys()
+    {
+        Window w;
+        FakeClock clock;
+        HelpView help(clock);
+        ShortcutsView shortcuts(shortcutSections(), clock);
+        QVERIFY(w.find<QAbstractButton>("Refresh adapter list — Ctrl+R"));
+        int ours = 0;
+        for (const QWidget* page : std::initializer_list<QWidget*>{w.window, &help, &shortcuts}) {
+            for (const QWidget* widget : page->findChildren<QWidget*>()) {
+                const QString texts = widget->property("text").toString() + widget->toolTip();
+                QVERIFY2(!texts.contains(QRegularExpression(u"Mac\\b|macOS|⌘|⇧|\\{"_s)), qPrintable(texts));
+                ours += texts.contains(u"NetworkManager"_s) || texts == u"Ctrl + Shift + I"_s;
+            }
+        }
+        QCOMPARE(ours, 2);
     }
 
     void helpIsNeverCutOff()

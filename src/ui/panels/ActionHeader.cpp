@@ -3,6 +3,7 @@
 #include "ui/elements/Binding.h"
 #include "ui/elements/PushButton.h"
 #include "ui/elements/Stack.h"
+#include "ui/elements/SystemWords.h"
 
 namespace ardeo
 {
@@ -15,7 +16,7 @@ ActionHeader::ActionHeader(MainViewModel& vm, QWidget* parent) : QWidget(parent)
     auto* refresh = new PushButton(QStringLiteral("Refresh"), QStringLiteral("arrow.clockwise"),
                                    PushButton::Kind::bordered);
     refresh->setControlSize(PushButton::Size::large);
-    refresh->setToolTip(QStringLiteral("Refresh adapter list — ⌘R"));
+    refresh->setToolTip(QStringLiteral("Refresh adapter list — ") + keys::text(keys::refresh));
     connect(refresh, &QPushButton::clicked, this, [&vm] { vm.refreshAdapters(); });
     bind(
         refresh, [&vm] { return vm.isLoading.value(); },
@@ -25,7 +26,7 @@ ActionHeader::ActionHeader(MainViewModel& vm, QWidget* parent) : QWidget(parent)
     auto* apply = new PushButton(QString(), QString(), PushButton::Kind::prominent);
     apply->setTint(&Colours::accent);
     apply->setControlSize(PushButton::Size::large);
-    apply->setToolTip(QStringLiteral("Apply configuration — ⌘↩"));
+    apply->setToolTip(QStringLiteral("Apply configuration — ") + keys::text(keys::apply));
     connect(apply, &QPushButton::clicked, this, [&vm] { vm.applyConfiguration(); });
     bind(
         apply,

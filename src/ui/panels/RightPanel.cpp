@@ -5,6 +5,7 @@
 #include "ui/elements/Controls.h"
 #include "ui/elements/PushButton.h"
 #include "ui/elements/Stack.h"
+#include "ui/elements/SystemWords.h"
 #include "ui/elements/TextLabel.h"
 #include "ui/panels/ActionHeader.h"
 #include "ui/panels/AdapterPropertiesCard.h"
@@ -35,7 +36,7 @@ QWidget* makeEmptyState()
     stack->addWidget(new TextLabel(QStringLiteral("No Network Services"),
                                    look::font(TextStyle::title2, QFont::Bold), Emphasis::primary),
                      0, Qt::AlignHCenter);
-    stack->addWidget(new TextLabel(QStringLiteral("No network services found on this Mac."),
+    stack->addWidget(new TextLabel(inSystemWords("No network services found on {thisComputer}."),
                                    look::font(TextStyle::subheadline), Emphasis::secondary),
                      0, Qt::AlignHCenter);
     stack->addStretch();

@@ -3,6 +3,7 @@
 #include "ui/MaterialPanel.h"
 #include "ui/elements/Controls.h"
 #include "ui/elements/Stack.h"
+#include "ui/elements/SystemWords.h"
 #include "ui/elements/TextLabel.h"
 
 #include <QApplication>
@@ -23,12 +24,13 @@ constexpr double radius = 14;
 constexpr int lineSpacing = 4;
 
 constexpr auto about =
-    "Ardeo IP Config is a native macOS utility for quickly switching network adapter configurations. Switch "
+    "Ardeo IP Config is a native {system} utility for quickly switching network adapter configurations. "
+    "Switch "
     "between DHCP and static IP in seconds — ideal for IT professionals, developers, and power users who "
     "work "
     "across multiple network environments such as office, home, VPN, or lab setups.\n\n"
-    "Settings are applied instantly through macOS System Configuration, the same framework used by Network "
-    "preferences. No restarts required.";
+    "Settings are applied instantly through {configuration}. No "
+    "restarts required.";
 
 struct Entry {
     const char* title;
@@ -42,9 +44,9 @@ constexpr auto features = std::to_array<Entry>({
     {"Network profiles", "Save, load, rename, delete named presets"},
     {"Import & Export", "Share profiles as JSON files across machines"},
     {"Current properties", "Live view of IP, subnet, gateway, DHCP server, computer name"},
-    {"Enable / Disable adapter", "Toggle any adapter on or off without System Settings"},
+    {"Enable / Disable adapter", "Toggle any adapter on or off without {settings}"},
     {"Renew DHCP lease", "Force a fresh lease from the DHCP server"},
-    {"Menu bar access", "Quick access from the menu bar icon at all times"},
+    {"{IconPlace} access", "Quick access from the {iconPlace} icon at all times"},
     {"Start at Login", "Launch automatically when you log in"},
 });
 
@@ -55,7 +57,7 @@ constexpr auto steps = std::to_array<Entry>({
     {"Configure Settings",
      "Choose \"Automatically Set IP Address\" for DHCP, or \"Manually Set IP Address\" to enter a static IP, "
      "subnet mask, and gateway. Set DNS in the same way below."},
-    {"Apply", "Click the Apply button (top-right) or press ⌘↩. The interface briefly reconfigures; the "
+    {"Apply", "Click the Apply button (top-right) or press {apply}. The interface briefly reconfigures; the "
               "Current Adapter "
               "Properties card refreshes automatically after ~4 seconds."},
     {"Save a Profile",
@@ -132,7 +134,7 @@ QLabel* makeAbout()
     text->setTextFormat(Qt::RichText); // the only kind whose lines can stand further apart
     text->setText(QStringLiteral("<div style='line-height:%1%'>%2</div>")
                       .arg(100 * (height + lineSpacing) / height)
-                      .arg(QString::fromUtf8(about).toHtmlEscaped().replace(u'\n', QStringLiteral("<br/>"))));
+                      .arg(inSystemWords(about).toHtmlEscaped().replace(u'\n', QStringLiteral("<br/>"))));
     text->setWordWrap(true);
     return text;
 }
@@ -143,10 +145,10 @@ void addRow(QVBoxLayout* rows, QWidget* leading, int spacing, const Entry& entry
     auto* row = rowIn(rows, spacing);
     row->addWidget(leading, 0, Qt::AlignTop);
     auto* texts = columnIn(row, lines, 1);
-    texts->addWidget(new TextLabel(QString::fromUtf8(entry.title),
-                                   look::font(TextStyle::callout, titleWeight), Emphasis::primary));
+    texts->addWidget(new TextLabel(inSystemWords(entry.title), look::font(TextStyle::callout, titleWeight),
+                                   Emphasis::primary));
     auto* detail =
-        new TextLabel(QString::fromUtf8(entry.detail), look::font(TextStyle::caption), Emphasis::secondary);
+        new TextLabel(inSystemWords(entry.detail), look::font(TextStyle::caption), Emphasis::secondary);
     detail->setWordWrap(true);
     texts->addWidget(detail);
 }

@@ -3,6 +3,7 @@
 #include "ui/MaterialPanel.h"
 #include "ui/elements/Controls.h"
 #include "ui/elements/Stack.h"
+#include "ui/elements/SystemWords.h"
 #include "ui/elements/TextLabel.h"
 
 #include <QPainter>
@@ -102,12 +103,12 @@ std::vector<ShortcutSection> shortcutSections()
     return {
         {QStringLiteral("Configuration"),
          QStringLiteral("slider.horizontal.3"),
-         {{QStringLiteral("⌘ + ↩"), QStringLiteral("Apply configuration")},
-          {QStringLiteral("⌘ + R"), QStringLiteral("Refresh adapter list")}}},
+         {{keys::spacedText(keys::apply), QStringLiteral("Apply configuration")},
+          {keys::spacedText(keys::refresh), QStringLiteral("Refresh adapter list")}}},
         {QStringLiteral("Profiles"),
          QStringLiteral("list.bullet"),
-         {{QStringLiteral("⇧ + ⌘ + I"), QStringLiteral("Import profiles from file")},
-          {QStringLiteral("⇧ + ⌘ + E"), QStringLiteral("Export profiles to file")}}},
+         {{keys::spacedText(keys::importProfiles), QStringLiteral("Import profiles from file")},
+          {keys::spacedText(keys::exportProfiles), QStringLiteral("Export profiles to file")}}},
         {QStringLiteral("Adapter"),
          QStringLiteral("network"),
          {{QStringLiteral("Tools → Renew DHCP"), QStringLiteral("Renew DHCP lease")},
@@ -117,8 +118,8 @@ std::vector<ShortcutSection> shortcutSections()
          QStringLiteral("macwindow"),
          {{QStringLiteral("Tools → Network Settings"), QStringLiteral("Open Network Settings")},
           {QStringLiteral("Tools → Activity Monitor"), QStringLiteral("Open Activity Monitor")},
-          {QStringLiteral("⌘ + H"), QStringLiteral("Hide Ardeo IP Config")},
-          {QStringLiteral("⌘ + Q"), QStringLiteral("Quit Ardeo IP Config")}}},
+          {keys::spacedText(keys::hide), QStringLiteral("Hide Ardeo IP Config")},
+          {keys::spacedText(keys::quit), QStringLiteral("Quit Ardeo IP Config")}}},
     };
 }
 
