@@ -1,4 +1,5 @@
 #include "ui/LiteralNetworkDrawing.h"
+#include "ui/background/NeuralNetworkDrawing.h"
 
 #include <benchmark/benchmark.h>
 
@@ -13,13 +14,23 @@ constexpr double step = 1.0 / 30;
 
 void frame(benchmark::State& state)
 {
-    NeuralNetworkRenderer renderer(220, 0.25);
     double time = 8e8;
     const auto scale = static_cast<double>(state.range(0));
+    QImage screen((size * scale).toSize(), QImage::Format_RGB32);
     for (auto _ : state) {
-        renderer.compose(size, time, scale, QRect(QPoint(), size.toSize()));
-        benchmark::DoNotOptimize(
-            renderer.picture({QPoint(), (size * scale).toSize()}, ColorScheme::light, Qt::white));
+        QPainter painter(&screen);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.scale(scale * networkCell, scale * networkCell);
+        painter.drawImage(0, 0, drawNetwork(size, time, 220, 0.25, ColorScheme::light, Qt::white));
+        time += step;
+    }
+}
+
+void composition(benchmark::State& state)
+{
+    double time = 8e8;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(drawNetwork(size, time, 220, 0.25, ColorScheme::light, Qt::white));
         time += step;
     }
 }
@@ -34,6 +45,7 @@ void literalFrameDrawing(benchmark::State& state)
     }
 }
 
+BENCHMARK(composition)->Unit(benchmark::kMillisecond);
 BENCHMARK(frame)->ArgName("scale")->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
 BENCHMARK(literalFrameDrawing)
     ->ArgName("scale")

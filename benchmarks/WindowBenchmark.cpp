@@ -1,7 +1,7 @@
 #include "SampleProfiles.h"
 #include "app/Ardeo_IPConfigApp.h"
-#include "platform/linux/program/BootTimeClock.h"
 #include "platform/linux/desktop/DesktopWorkspace.h"
+#include "platform/linux/program/BootTimeClock.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "ui/elements/IPAddressField.h"
 #include "ui/panels/PresetList.h"

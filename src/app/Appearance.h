@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/linux/desktop/DesktopAppearance.h"
-#include "ui/NeuralNetworkFrame.h"
+#include "ui/elements/ColorScheme.h"
 
 namespace ardeo
 {

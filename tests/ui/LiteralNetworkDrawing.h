@@ -1,12 +1,13 @@
 #pragma once
 
-#include "ui/NeuralNetworkFrame.h"
+#include "ui/elements/ColorScheme.h"
 
 #include <QPainter>
 #include <QPainterPathStroker>
 
 #include <array>
 #include <cmath>
+#include <vector>
 
 namespace ardeo
 {
@@ -44,6 +45,14 @@ inline Channel blurred(const Channel& in, double deviation)
             static_cast<float>(std::exp(-i * i / (2 * deviation * deviation)) / deviation * 0.39894228));
     return blurredAndTurned(blurredAndTurned(in, kernel), kernel);
 }
+
+/// By how much a picture is off, in steps of 1/255 of the channel that differs most.
+struct Differences {
+    double mean = 0;
+    /// The share of the pixels.
+    double beyondThree = 0;
+    int largest = 0;
+};
 
 /// A canvas that draws layer by layer, in floating point: red, green, blue, alpha, from 0 to 1.
 class Canvas
@@ -97,30 +106,46 @@ public:
             channel = blurred(channel, deviation * m_scale);
     }
 
-    /// The largest difference of any channel, in steps of 1/255.
-    int differenceFrom(const QImage& image, QColor ground) const
+    Differences differencesFrom(const QImage& image, QColor ground) const
     {
         const std::array grounds{ground.redF() * 255, ground.greenF() * 255, ground.blueF() * 255};
-        int largest = 0;
+        Differences found;
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x) {
                 const QRgb pixel = reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];
                 const std::array channels{qRed(pixel), qGreen(pixel), qBlue(pixel)};
                 const auto index = static_cast<std::size_t>(y * image.width() + x);
                 const auto through = 1 - m_channels[3].samples[index];
+                int difference = 0;
                 for (std::size_t i = 0; i < channels.size(); ++i) {
                     const auto meant = m_channels[i].samples[index] * 255 + through * grounds[i];
-                    largest = std::max(largest, std::abs(channels[i] - qRound(meant)));
+                    difference = std::max(difference, std::abs(channels[i] - qRound(meant)));
                 }
+                found.largest = std::max(found.largest, difference);
+                found.mean += difference;
+                found.beyondThree += difference > 3;
             }
         }
-        return largest;
+        const double pixels = double(image.width()) * image.height();
+        return {found.mean / pixels, found.beyondThree / pixels, found.largest};
     }
 
 private:
     double m_scale;
     std::array<Channel, 4> m_channels;
 };
+
+constexpr std::array<std::array<double, 4>, 35> literalNodes{{
+    {0.11, 0.13, 0.0, 1.2}, {0.07, 0.09, 2.1, 0.7}, {0.15, 0.08, 1.0, 2.3}, {0.09, 0.12, 3.1, 0.4},
+    {0.13, 0.11, 0.8, 1.9}, {0.06, 0.14, 2.5, 0.1}, {0.17, 0.07, 0.3, 2.7}, {0.10, 0.16, 1.7, 0.6},
+    {0.08, 0.10, 2.9, 1.4}, {0.14, 0.06, 0.5, 3.0}, {0.12, 0.15, 1.3, 0.9}, {0.16, 0.09, 2.2, 1.6},
+    {0.05, 0.13, 0.9, 2.0}, {0.11, 0.07, 3.2, 0.3}, {0.09, 0.17, 1.5, 2.4}, {0.13, 0.10, 0.2, 1.1},
+    {0.07, 0.12, 2.8, 0.8}, {0.15, 0.06, 0.6, 2.6}, {0.10, 0.14, 1.8, 0.2}, {0.08, 0.11, 3.0, 1.5},
+    {0.14, 0.08, 0.4, 2.1}, {0.06, 0.15, 2.3, 0.5}, {0.12, 0.09, 1.1, 2.8}, {0.16, 0.13, 0.7, 0.0},
+    {0.09, 0.06, 2.6, 1.3}, {0.11, 0.16, 0.1, 2.2}, {0.13, 0.08, 1.9, 0.6}, {0.07, 0.11, 2.4, 1.7},
+    {0.15, 0.14, 0.3, 0.9}, {0.08, 0.07, 3.1, 2.5}, {0.10, 0.13, 1.6, 0.4}, {0.14, 0.10, 0.8, 2.9},
+    {0.06, 0.09, 2.0, 1.0}, {0.12, 0.15, 0.5, 1.8}, {0.17, 0.11, 1.2, 0.7},
+}};
 
 /// The frame as it is meant, one layer after the other.
 inline Canvas literalFrame(QSizeF size, double time, ColorScheme scheme, double scale)
@@ -132,7 +157,11 @@ inline Canvas literalFrame(QSizeF size, double time, ColorScheme scheme, double 
     Canvas canvas((size * scale).toSize(), scale);
     QPainterPathStroker stroker;
     stroker.setCapStyle(Qt::FlatCap);
-    const std::vector<QPointF> positions = nodePositions(size, time, 0.25);
+    std::vector<QPointF> positions;
+    for (const auto& [xFreq, yFreq, xPhase, yPhase] : literalNodes) {
+        positions.emplace_back(size.width() * (0.5 + 0.46 * std::sin(time * 0.25 * xFreq + xPhase)),
+                               size.height() * (0.5 + 0.47 * std::cos(time * 0.25 * yFreq + yPhase)));
+    }
     for (std::size_t i = 0; i < positions.size(); ++i) {
         for (std::size_t j = i + 1; j < positions.size(); ++j) {
             const double distance = QLineF(positions[i], positions[j]).length();

@@ -4,7 +4,7 @@
 #include "fakes/Fakes.h"
 #include "platform/AdvisoryLock.h"
 #include "platform/simulated/SimulatedPlatform.h"
-#include "ui/NeuralNetworkBackground.h"
+#include "ui/background/NeuralNetworkBackground.h"
 #include "ui/elements/Controls.h"
 #include "ui/elements/IPAddressField.h"
 #include "ui/panels/AdapterSection.h"

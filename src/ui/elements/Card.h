@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/MaterialPanel.h"
+#include "ui/background/MaterialPanel.h"
 
 namespace ardeo
 {

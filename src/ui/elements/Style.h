@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/NeuralNetworkFrame.h"
+#include "ui/elements/ColorScheme.h"
 
 #include <QColor>
 #include <QFont>

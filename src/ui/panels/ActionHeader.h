@@ -13,7 +13,7 @@ class ActionHeader final : public QWidget
     Q_OBJECT
 
 public:
-    explicit ActionHeader(MainViewModel& model, QWidget* parent = nullptr);
+    explicit ActionHeader(MainViewModel& vm, QWidget* parent = nullptr);
 };
 
 } // namespace ardeo

@@ -13,8 +13,7 @@ class AdapterPropertiesCard final : public Card
 
 public:
     /// Switching off only asks for the confirmation.
-    AdapterPropertiesCard(MainViewModel& model, Observed<bool>& showDisableConfirm,
-                          QWidget* parent = nullptr);
+    AdapterPropertiesCard(MainViewModel& vm, Observed<bool>& showDisableConfirm, QWidget* parent = nullptr);
 };
 
 } // namespace ardeo

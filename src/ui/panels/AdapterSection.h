@@ -13,7 +13,7 @@ class AdapterSection final : public QWidget
     Q_OBJECT
 
 public:
-    explicit AdapterSection(MainViewModel& model, QWidget* parent = nullptr);
+    explicit AdapterSection(MainViewModel& vm, QWidget* parent = nullptr);
 };
 
 /// What the picker says of an adapter.

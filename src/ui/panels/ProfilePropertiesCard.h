@@ -12,7 +12,7 @@ class ProfilePropertiesCard final : public Card
     Q_OBJECT
 
 public:
-    explicit ProfilePropertiesCard(MainViewModel& model, QWidget* parent = nullptr);
+    explicit ProfilePropertiesCard(MainViewModel& vm, QWidget* parent = nullptr);
 
 private:
     QPropertyNotifier m_maskDefault;

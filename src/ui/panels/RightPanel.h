@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/MainViewModel.h"
-#include "ui/NeuralNetworkBackground.h"
+#include "ui/background/NeuralNetworkBackground.h"
 
 namespace ardeo
 {

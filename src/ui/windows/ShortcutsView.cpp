@@ -1,6 +1,6 @@
 #include "ui/windows/ShortcutsView.h"
 
-#include "ui/MaterialPanel.h"
+#include "ui/background/MaterialPanel.h"
 #include "ui/elements/Controls.h"
 #include "ui/elements/Stack.h"
 #include "ui/elements/SystemWords.h"

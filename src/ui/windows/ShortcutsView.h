@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/BackgroundPage.h"
+#include "ui/background/BackgroundPage.h"
 
 #include <vector>
 

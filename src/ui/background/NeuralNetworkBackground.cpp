@@ -1,5 +1,6 @@
-#include "ui/NeuralNetworkBackground.h"
+#include "ui/background/NeuralNetworkBackground.h"
 
+#include "ui/background/NeuralNetworkDrawing.h"
 #include "ui/elements/Style.h"
 
 #include <QEvent>
@@ -17,10 +18,10 @@ constexpr int tickMilliseconds = 33;
 /// Ticks after which also what lies above is painted anew. Until then the ground that shines through a card
 /// has changed by two to five steps of colour of 255 where it changes most.
 constexpr int coveredTicks = 18;
-/// Pixels that are drawn at once: few enough to stay in the processor's cache until they are on the screen.
-constexpr int bandPixels = 48 * 1024;
-/// By how much the backdrop is smaller than the view.
-constexpr int backdropScale = 24;
+/// Points whose average the backdrop keeps, each way.
+constexpr int backdropCell = 24;
+/// How often it is doubled in size again. Drawn at once, its cells would show.
+constexpr int backdropDoublings = 2;
 
 } // namespace
 
@@ -65,8 +66,6 @@ void NeuralNetworkBackground::hideEvent(QHideEvent*)
     startOrStop();
     // Nobody sees it, maybe for days.
     forgetFrame();
-    m_renderer.reset();
-    m_ticks = 0;
 }
 
 bool NeuralNetworkBackground::eventFilter(QObject* watched, QEvent* event)
@@ -97,7 +96,7 @@ void NeuralNetworkBackground::resizeEvent(QResizeEvent*)
 void NeuralNetworkBackground::timerEvent(QTimerEvent*)
 {
     m_time = m_clock.referenceTime();
-    m_composed = {};
+    m_frame = {};
     if (m_ticks++ % coveredTicks != 0)
         return update(QRegion(rect()) - m_covered());
     m_backdrop = {};
@@ -106,36 +105,27 @@ void NeuralNetworkBackground::timerEvent(QTimerEvent*)
 
 void NeuralNetworkBackground::forgetFrame()
 {
-    m_composed = {};
+    m_frame = {};
     m_backdrop = {};
 }
 
-bool NeuralNetworkBackground::isPostponed() const
+const QImage& NeuralNetworkBackground::frame()
 {
-    return m_ticks == 0 && look::duration(this, 1) > 0;
-}
-
-NeuralNetworkRenderer& NeuralNetworkBackground::frame(const QRegion& part)
-{
-    if (!m_renderer)
-        m_renderer.emplace(m_maxDist, m_speed);
-    // The window may have come to a screen of another scale.
-    if (!(part - m_composed).isEmpty() || m_composedScale != devicePixelRatioF()) {
-        m_composedScale = devicePixelRatioF();
-        m_renderer->compose(size(), m_time, m_composedScale, part);
-        m_composed = part;
-    }
-    return *m_renderer;
+    if (m_frame.isNull())
+        m_frame =
+            drawNetwork(size(), m_time, m_maxDist, m_speed, look::schemeOf(this), look::colours(this).window);
+    return m_frame;
 }
 
 const QImage& NeuralNetworkBackground::backdrop()
 {
-    if (isPostponed()) {
-        m_backdrop = QImage(1, 1, QImage::Format_RGB32);
-        m_backdrop.fill(look::colours(this).window);
-    } else if (m_backdrop.isNull() && !size().isEmpty()) {
-        const QSize small(qMax(1, width() / backdropScale), qMax(1, height() / backdropScale));
-        m_backdrop = frame(rect()).reduced(small, look::schemeOf(this), look::colours(this).window);
+    if (m_backdrop.isNull() && !size().isEmpty()) {
+        const auto scaledTo = [](const QImage& image, QSize size) {
+            return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        };
+        m_backdrop = scaledTo(frame(), (size() / backdropCell).expandedTo({1, 1}));
+        for (int i = 0; i < backdropDoublings; ++i)
+            m_backdrop = scaledTo(m_backdrop, m_backdrop.size() * 2);
     }
     return m_backdrop;
 }
@@ -143,23 +133,10 @@ const QImage& NeuralNetworkBackground::backdrop()
 void NeuralNetworkBackground::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    if (isPostponed())
-        return painter.fillRect(event->rect(), look::colours(this).window);
-    const double scale = devicePixelRatioF();
-    const QRect all(QPoint(), (QSizeF(size()) * scale).toSize());
-    NeuralNetworkRenderer& network = frame(event->region());
-    painter.scale(1 / scale, 1 / scale); // to device pixels, so that the bands meet exactly
-    for (const QRect& part : event->region()) {
-        const QRect pixels =
-            QRectF(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale).toAlignedRect() & all;
-        painter.setClipRect(pixels);
-        const int rows = qMax(1, bandPixels / qMax(1, pixels.width()));
-        for (int top = pixels.top(); top <= pixels.bottom(); top += rows) {
-            const QRect band(pixels.left(), top, pixels.width(), qMin(rows, pixels.bottom() + 1 - top));
-            painter.drawImage(band.topLeft(),
-                              network.picture(band, look::schemeOf(this), look::colours(this).window));
-        }
-    }
+    painter.setClipRegion(event->region());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.scale(networkCell, networkCell);
+    painter.drawImage(0, 0, frame());
 }
 
 } // namespace ardeo

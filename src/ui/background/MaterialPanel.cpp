@@ -1,4 +1,4 @@
-#include "ui/MaterialPanel.h"
+#include "ui/background/MaterialPanel.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/NeuralNetworkBackground.h"
+#include "ui/background/NeuralNetworkBackground.h"
 
 namespace ardeo
 {

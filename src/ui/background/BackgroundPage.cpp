@@ -1,6 +1,6 @@
-#include "ui/BackgroundPage.h"
+#include "ui/background/BackgroundPage.h"
 
-#include "ui/MaterialPanel.h"
+#include "ui/background/MaterialPanel.h"
 #include "ui/elements/CardScrollArea.h"
 #include "ui/elements/PushButton.h"
 

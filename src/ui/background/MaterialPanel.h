@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/NeuralNetworkBackground.h"
+#include "ui/background/NeuralNetworkBackground.h"
 #include "ui/elements/Style.h"
 
 #include <functional>

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "platform/Clock.h"
-#include "ui/NeuralNetworkFrame.h"
 
+#include <QImage>
+#include <QRegion>
 #include <QWidget>
 
 #include <functional>
-#include <optional>
 
 namespace ardeo
 {
@@ -40,21 +40,15 @@ protected:
 
 private:
     void startOrStop();
-    /// Whether there is only the ground yet. The first frame takes a few milliseconds, which the window needs
-    /// more urgently when it appears; so it comes with the first tick.
-    bool isPostponed() const;
     /// Frames are drawn when they are looked at: at the start a window changes its size and looks many times.
     void forgetFrame();
-    /// The current frame, of which at least that part is composed.
-    NeuralNetworkRenderer& frame(const QRegion& part);
+    const QImage& frame();
 
     Clock& m_clock;
     double m_maxDist;
     double m_speed;
     std::function<QRegion()> m_covered = [] { return QRegion(); };
-    std::optional<NeuralNetworkRenderer> m_renderer;
-    QRegion m_composed;
-    double m_composedScale = 0;
+    QImage m_frame;
     QImage m_backdrop;
     double m_time = 0;
     int m_timer = 0;
