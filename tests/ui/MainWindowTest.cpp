@@ -365,6 +365,7 @@ private Q_SLOTS:
         QTest::keyClick(name, Qt::Key_Return);
         QCOMPARE(w.model->presetStore.presets().first().name, Text(u"  Flat "_s));
         QVERIFY(!sheet->isVisible());
+        QCOMPARE(w.list()->currentIndex().row(), 0);
 
         QTest::mouseMove(w.list()->viewport(), w.row(0));
         for (const char* answer : {"Cancel", "Delete \"  Flat \""}) {
@@ -375,6 +376,7 @@ private Q_SLOTS:
             w.click(answer);
         }
         QVERIFY(w.list()->hoveredPreset() != w.model->presetStore.presets().first().id);
+        QCOMPARE(w.list()->currentIndex().row(), 0);
 
         for (const auto key : {Qt::Key_Escape, Qt::Key_Return}) {
             QCOMPARE(w.model->presetStore.presets().size(), 1);
@@ -405,6 +407,14 @@ private Q_SLOTS:
         w.click("Clear search");
         QCOMPARE(w.list()->count(), 10'000);
         QVERIFY(w.list()->findChildren<QWidget*>().size() < 20);
+        QTest::keyClicks(search, u"999"_s);
+        w.model->savePreset(u"New"_s);
+        QVERIFY(search->text().isEmpty());
+        const int last = w.list()->currentIndex().row();
+        QCOMPARE(last, 10'000);
+        QVERIFY(w.list()->viewport()->rect().contains(w.row(last)));
+        w.model->presetStore.remove(presets.first().id);
+        QCOMPARE(w.list()->currentIndex().row(), last - 1);
     }
 
     void disablingAsksFirst()

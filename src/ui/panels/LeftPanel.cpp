@@ -140,6 +140,7 @@ QWidget* LeftPanel::makeListArea()
                                          presetToRename = preset;
                                      },
                                  .remove = [this](const NetworkPreset& preset) { presetToDelete = preset; }});
+    connect(list, &PresetList::addedOutOfSight, this, [this] { presetFilter = Text(); });
     layers->addWidget(list);
     auto* nothing = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::tertiary);
     nothing->setAlignment(Qt::AlignCenter);

@@ -63,6 +63,14 @@ public:
         endResetModel();
     }
     const NetworkPreset& preset(int row) const { return m_store.presets().at(m_positions.at(row)); }
+    /// The row of a profile; an index of nothing where it is not shown.
+    QModelIndex indexOf(const QUuid& id) const
+    {
+        const auto position = std::ranges::find(
+            m_positions, id, [this](qsizetype i) -> const QUuid& { return m_store.presets().at(i).id; });
+        return position == m_positions.end() ? QModelIndex()
+                                             : index(static_cast<int>(position - m_positions.begin()));
+    }
     int rowCount(const QModelIndex& parent = {}) const override
     {
         return parent.isValid() ? 0 : static_cast<int>(m_positions.size());
@@ -188,6 +196,8 @@ PresetList::PresetList(NetworkPresetStore& store, Actions actions, QWidget* pare
     setAutoFillBackground(false);
     connect(this, &QListView::clicked, this,
             [this](const QModelIndex& index) { m_actions.load(m_rows->preset(index.row())); });
+    connect(&store, &NetworkPresetStore::presetsWillChange, this, &PresetList::rememberPlace);
+    connect(&store, &NetworkPresetStore::presetsDidChange, this, &PresetList::returnToPlace);
     // A row that goes away from under the pointer is not hovered any more.
     connect(m_rows, &QAbstractItemModel::modelReset, this, [this] {
         const auto& presets = m_store.presets();
@@ -203,7 +213,44 @@ PresetList::~PresetList() = default;
 
 void PresetList::setFilter(const QString& filter)
 {
+    const auto current = presetAt(currentIndex());
     m_rows->setFilter(filter);
+    if (current)
+        setCurrentIndex(m_rows->indexOf(current->id));
+}
+
+void PresetList::rememberPlace()
+{
+    m_place = {.known = {},
+               .current = presetAt(currentIndex()),
+               .row = currentIndex().row(),
+               .scrolled = verticalScrollBar()->value()};
+    for (const NetworkPreset& preset : m_store.presets())
+        m_place.known.insert(preset.id);
+}
+
+void PresetList::returnToPlace()
+{
+    const Place place = std::exchange(m_place, {});
+    QList<QUuid> added;
+    for (const NetworkPreset& preset : m_store.presets()) {
+        if (!place.known.contains(preset.id))
+            added.append(preset.id);
+    }
+    if (!added.isEmpty()) {
+        if (!m_rows->indexOf(added.first()).isValid())
+            Q_EMIT addedOutOfSight();
+        // As many of them as there is room for, the first one in any case.
+        scrollTo(m_rows->indexOf(added.last()));
+        setCurrentIndex(m_rows->indexOf(added.first()));
+        return;
+    }
+    if (place.current) {
+        const QModelIndex same = m_rows->indexOf(place.current->id);
+        const int next = std::min(place.row, m_rows->rowCount() - 1);
+        setCurrentIndex(same.isValid() ? same : m_rows->index(next));
+    }
+    verticalScrollBar()->setValue(place.scrolled);
 }
 
 qsizetype PresetList::count() const

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QListView>
+#include <QSet>
 
 #include <functional>
 #include <optional>
@@ -13,7 +14,8 @@ namespace ardeo
 
 /// The saved profiles as a list: rows are made when they come into view, so its length does not matter. A row
 /// can be hovered, clicked, and operated by keys (Return loads, F2 renames, Delete deletes, the menu key
-/// opens the menu).
+/// opens the menu). Whatever happens to the profiles, the place in the list stays, but for new profiles,
+/// which are scrolled to.
 class PresetList final : public QListView
 {
     Q_OBJECT
@@ -29,6 +31,11 @@ public:
     PresetList(NetworkPresetStore& store, Actions actions, QWidget* parent = nullptr);
     ~PresetList() override;
 
+Q_SIGNALS:
+    /// A profile has been added that the filter hides.
+    void addedOutOfSight();
+
+public:
     /// Shows only profiles whose name contains the text, by the user's locale, whatever their case.
     void setFilter(const QString& filter);
     /// The number of profiles shown.
@@ -48,6 +55,16 @@ protected:
 private:
     class Rows;
 
+    /// Where the user is in the list, while the profiles change.
+    struct Place {
+        QSet<QUuid> known;
+        std::optional<NetworkPreset> current;
+        int row = -1;
+        int scrolled = 0;
+    };
+
+    void rememberPlace();
+    void returnToPlace();
     std::optional<NetworkPreset> presetAt(const QModelIndex& index) const;
     void hover(const std::optional<QUuid>& id);
     void fade(const QUuid& id, double target);
@@ -56,6 +73,7 @@ private:
     NetworkPresetStore& m_store;
     Actions m_actions;
     Rows* m_rows;
+    Place m_place;
     std::optional<QUuid> m_hoveredPreset;
     QHash<QUuid, double> m_highlights;
 };
