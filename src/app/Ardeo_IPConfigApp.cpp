@@ -31,13 +31,14 @@ void fillWindow(QMainWindow& window, QWidget* content)
     QObject::connect(new QShortcut(keys::close, &window), &QShortcut::activated, &window, &QWidget::close);
 }
 
-/// A window beside the main one; its width is its content's.
+/// A window beside the main one; its width is its content's, and Escape closes it, too.
 QWidget* makeWindow(const QString& title, QSize size, QWidget* content)
 {
     auto* window = new QMainWindow;
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(title);
     fillWindow(*window, content);
+    new QShortcut(Qt::Key_Escape, window, window, &QWidget::close);
     window->setFixedWidth(size.width());
     window->setMinimumHeight(smallestHeight);
     window->resize(size);

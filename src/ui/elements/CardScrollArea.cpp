@@ -1,6 +1,8 @@
 #include "ui/elements/CardScrollArea.h"
 
 #include <QAccessibleWidget>
+#include <QKeyEvent>
+#include <QScrollBar>
 
 namespace ardeo
 {
@@ -31,6 +33,16 @@ CardScrollArea::CardScrollArea(QWidget* content, QWidget* parent) : QScrollArea(
     setWidget(content);
     for (QWidget* clear : {viewport(), content, static_cast<QWidget*>(this)})
         clear->setAutoFillBackground(false);
+}
+
+void CardScrollArea::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Home)
+        verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMinimum);
+    else if (event->key() == Qt::Key_End)
+        verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMaximum);
+    else
+        QScrollArea::keyPressEvent(event);
 }
 
 } // namespace ardeo

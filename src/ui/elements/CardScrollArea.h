@@ -5,13 +5,16 @@
 namespace ardeo
 {
 
-/// A vertical scroll area without a ground of its own.
+/// A vertical scroll area without a ground of its own. Besides the usual keys, Home and End scroll it.
 class CardScrollArea final : public QScrollArea
 {
     Q_OBJECT
 
 public:
     explicit CardScrollArea(QWidget* content, QWidget* parent = nullptr);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 } // namespace ardeo

@@ -4,8 +4,48 @@
 #include "ui/elements/Stack.h"
 #include "ui/elements/TextLabel.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+
 namespace ardeo
 {
+
+/// The value of a row. What is copied is the selection, or else all of it.
+class ValueLabel final : public TextLabel
+{
+public:
+    using TextLabel::TextLabel;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        TextLabel::focusInEvent(event);
+        if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+            selectAll();
+    }
+    void mouseDoubleClickEvent(QMouseEvent*) override { selectAll(); }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->matches(QKeySequence::Copy))
+            copy();
+        else
+            TextLabel::keyPressEvent(event);
+    }
+    void contextMenuEvent(QContextMenuEvent* event) override
+    {
+        auto* menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addAction(QStringLiteral("Copy"), QKeySequence::Copy, this, &ValueLabel::copy);
+        menu->popup(event->globalPos());
+    }
+
+private:
+    void selectAll() { setSelection(0, static_cast<int>(text().size())); }
+    void copy() const { QGuiApplication::clipboard()->setText(hasSelectedText() ? selectedText() : text()); }
+};
 
 InfoRow::InfoRow(const QString& label, const QString& value, bool monospaced, QWidget* parent)
     : QWidget(parent)
@@ -13,9 +53,9 @@ InfoRow::InfoRow(const QString& label, const QString& value, bool monospaced, QW
     auto* row = rowIn(this, 8);
     auto* text = new TextLabel(label, look::font(TextStyle::callout), Emphasis::secondary);
     text->setFixedWidth(labelColumnWidth);
-    m_value = new TextLabel(QString(),
-                            monospaced ? look::monospacedFont(TextStyle::body) : look::font(TextStyle::body),
-                            Emphasis::primary);
+    m_value = new ValueLabel(QString(),
+                             monospaced ? look::monospacedFont(TextStyle::body) : look::font(TextStyle::body),
+                             Emphasis::primary);
     m_value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_value->setWordWrap(true);
     text->setBuddy(m_value);
@@ -30,6 +70,8 @@ InfoRow::InfoRow(const QString& label, const QString& value, bool monospaced, QW
 void InfoRow::setValue(const QString& value)
 {
     m_value->setText(value.isEmpty() ? QStringLiteral("—") : value);
+    // The Tab key stops only at what is worth copying.
+    m_value->setFocusPolicy(value.isEmpty() ? Qt::ClickFocus : Qt::StrongFocus);
     m_value->setEmphasis(value.isEmpty() ? Emphasis::tertiary : Emphasis::primary);
 }
 

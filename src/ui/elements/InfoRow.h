@@ -5,9 +5,9 @@
 namespace ardeo
 {
 
-class TextLabel;
+class ValueLabel;
 
-/// A label of fixed width, followed by a value that can be selected and copied.
+/// A label of fixed width, followed by a value that can be reached, selected and copied, by keyboard too.
 class InfoRow final : public QWidget
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     void setValue(const QString& value);
 
 private:
-    TextLabel* m_value;
+    ValueLabel* m_value;
 };
 
 } // namespace ardeo

@@ -15,6 +15,7 @@
 #include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QShortcut>
 #include <QStackedLayout>
 
 namespace ardeo
@@ -111,6 +112,15 @@ QWidget* LeftPanel::makeSearchRow()
             if (Text(field->text()) != filter)
                 field->setText(filter);
         });
+    new QShortcut(
+        Qt::Key_Escape, field, field,
+        [this, field] {
+            if (presetFilter.value().isEmpty())
+                leaveSearch();
+            else
+                presetFilter = Text();
+        },
+        Qt::WidgetShortcut);
     layout->addWidget(field, 1);
 
     auto* erase = new PushButton(QString(), QStringLiteral("xmark.circle.fill"), PushButton::Kind::plain);
@@ -128,20 +138,28 @@ QWidget* LeftPanel::makeSearchRow()
     return frame;
 }
 
+void LeftPanel::leaveSearch()
+{
+    if (m_list->isVisible())
+        m_list->setFocus();
+    else
+        setFocus(); // it does nothing with keys, and the Tab key goes on from here
+}
+
 QWidget* LeftPanel::makeListArea()
 {
     auto* area = new QWidget;
     auto* layers = new QStackedLayout(area);
-    auto* list = new PresetList(vm.presetStore,
-                                {.load = [this](const NetworkPreset& preset) { vm.loadPreset(preset); },
-                                 .rename =
-                                     [this](const NetworkPreset& preset) {
-                                         renameText = preset.name;
-                                         presetToRename = preset;
-                                     },
-                                 .remove = [this](const NetworkPreset& preset) { presetToDelete = preset; }});
-    connect(list, &PresetList::addedOutOfSight, this, [this] { presetFilter = Text(); });
-    layers->addWidget(list);
+    m_list = new PresetList(vm.presetStore,
+                            {.load = [this](const NetworkPreset& preset) { vm.loadPreset(preset); },
+                             .rename =
+                                 [this](const NetworkPreset& preset) {
+                                     renameText = preset.name;
+                                     presetToRename = preset;
+                                 },
+                             .remove = [this](const NetworkPreset& preset) { presetToDelete = preset; }});
+    connect(m_list, &PresetList::addedOutOfSight, this, [this] { presetFilter = Text(); });
+    layers->addWidget(m_list);
     auto* nothing = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::tertiary);
     nothing->setAlignment(Qt::AlignCenter);
     layers->addWidget(nothing);
@@ -155,10 +173,10 @@ QWidget* LeftPanel::makeListArea()
         [this] {
             return Shown{presetFilter.value(), hasPresets(), m_presetChanges.value()};
         },
-        [list, nothing, layers](const Shown& shown) {
-            list->setFilter(shown.filter);
+        [this, nothing, layers](const Shown& shown) {
+            m_list->setFilter(shown.filter);
             nothing->setText(shown.any ? QStringLiteral("No match.") : QStringLiteral("No saved profiles."));
-            layers->setCurrentIndex(list->count() > 0 ? 0 : 1);
+            layers->setCurrentIndex(m_list->count() > 0 ? 0 : 1);
         });
     return area;
 }

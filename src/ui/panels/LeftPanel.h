@@ -25,6 +25,7 @@ protected:
 private:
     QWidget* makeProfileSection();
     QWidget* makeSearchRow();
+    void leaveSearch();
     QWidget* makeListArea();
     QWidget* makeBottomBar();
     void followSheets();
@@ -41,6 +42,7 @@ private:
     Observed<std::optional<NetworkPreset>> presetToRename;
     Observed<Text> renameText;
     QProperty<int> m_presetChanges{0};
+    PresetList* m_list = nullptr;
     QPointer<ProfileNameSheet> m_sheet;
 };
 
