@@ -5,6 +5,8 @@
 #include "platform/AdvisoryLock.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "ui/background/NeuralNetworkBackground.h"
+#include "ui/elements/Card.h"
+#include "ui/elements/CardScrollArea.h"
 #include "ui/elements/Controls.h"
 #include "ui/elements/IPAddressField.h"
 #include "ui/panels/AdapterSection.h"
@@ -309,6 +311,31 @@ private Q_SLOTS:
                  "Disable Adapter"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text(), w.model->currentConfig.value().ipAddress.string());
+    }
+
+    void nothingMovesWhileSomethingIsDone()
+    {
+        Window w;
+        w.window->resize(720, 560);
+        auto* bar = w.find<CardScrollArea>("")->verticalScrollBar();
+        bar->setValue(bar->maximum());
+        const auto places = [&] {
+            QTest::qWait(50); // for layouts, which settle step by step
+            const auto* refresh = w.find<QAbstractButton>("Refresh");
+            const QWidget* card = w.find<Card>("Current Adapter Properties");
+            return std::tuple(bar->value(), refresh->pos(), card->geometry());
+        };
+        const auto before = places();
+        QVERIFY(bar->value() > 0);
+        for (Observed<bool>* state : {&w.model->isLoading, &w.model->isApplying}) {
+            *state = true;
+            QVERIFY(places() == before);
+            *state = false;
+        }
+        w.window->resize(900, 680);
+        w.model->dnsMode = DNSMode::manual;
+        places();
+        QCOMPARE(bar->maximum(), bar->minimum());
     }
 
     void pressedButtonsKeepTheFocus()

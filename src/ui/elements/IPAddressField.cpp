@@ -54,7 +54,7 @@ IPAddressField::IPAddressField(Observed<Text>& value, const QString& placeholder
         auto* octet = new QLineEdit;
         octet->setFrame(false);
         octet->setFont(font);
-        octet->setFixedSize(octetWidth, octet->fontMetrics().height());
+        octet->setFixedSize(octetWidth, look::lineHeight(font));
         octet->setAlignment(Qt::AlignCenter);
         octet->setPlaceholderText(partPlaceholder(i));
         octet->setAccessibleName(QStringLiteral("%1, part %2 of 4").arg(name).arg(i + 1));

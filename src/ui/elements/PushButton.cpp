@@ -51,6 +51,12 @@ void PushButton::setControlSize(Size size)
     updateGeometry();
 }
 
+void PushButton::setWidestText(const QString& text)
+{
+    m_widestText = text;
+    updateGeometry();
+}
+
 void PushButton::setSymbol(const QString& symbol)
 {
     m_symbol = symbol;
@@ -77,8 +83,10 @@ QSize PushButton::sizeHint() const
     const int glyph = m_symbol.isEmpty() && !m_spinner ? 0 : 16;
     const int gap = glyph > 0 && !text().isEmpty() ? symbolGap : 0;
     const int padding = m_kind == Kind::plain ? 0 : text().isEmpty() ? 7 : large ? 14 : 10;
-    const int width = glyph + gap + fontMetrics().horizontalAdvance(text()) + 2 * padding;
-    const int height = m_kind == Kind::plain ? 16 : large ? 32 : 26;
+    const int textWidth =
+        std::max(fontMetrics().horizontalAdvance(text()), fontMetrics().horizontalAdvance(m_widestText));
+    const int width = glyph + gap + textWidth + 2 * padding;
+    const int height = m_kind == Kind::plain ? 16 : large ? 28 : 26;
     return {width, height};
 }
 

@@ -27,6 +27,8 @@ public:
     void setUsable(bool usable);
     void setTint(Tint tint);
     void setControlSize(Size size);
+    /// Keeps room for that text, so that nothing moves when it takes the place of the present one.
+    void setWidestText(const QString& text);
     void setSymbol(const QString& symbol);
     /// Shows a turning spinner, scaled by that factor, in the symbol's place.
     void setSpinning(bool spinning, double scale);
@@ -43,6 +45,7 @@ private:
     QRectF symbolRect() const;
 
     QString m_symbol;
+    QString m_widestText;
     Kind m_kind;
     Tint m_tint = nullptr;
     Size m_size = Size::regular;

@@ -158,6 +158,11 @@ QFont monospacedFont(TextStyle style, int weight)
     return sized(QFontDatabase::systemFont(QFontDatabase::FixedFont), style, weight);
 }
 
+int lineHeight(const QFont& font)
+{
+    return std::min(QFontMetrics(font).height(), font.pixelSize() * 5 / 4);
+}
+
 QColor withOpacity(QColor colour, double opacity)
 {
     colour.setAlphaF(static_cast<float>(opacity));

@@ -70,6 +70,9 @@ QPalette palette(ColorScheme scheme);
 QFont font(TextStyle style, int weight = -1);
 QFont monospacedFont(TextStyle style, int weight = -1);
 
+/// The height of a line of such text in points, without the room that some fonts keep for stacked accents.
+int lineHeight(const QFont& font);
+
 QColor withOpacity(QColor colour, double opacity);
 
 /// The part of a widget's rectangle that begins and ends on whole device pixels, so that edges are sharp at

@@ -23,7 +23,9 @@ ActionHeader::ActionHeader(MainViewModel& vm, QWidget* parent) : QWidget(parent)
         [refresh](bool loading) { refresh->setUsable(!loading); });
     row->addWidget(refresh);
 
+    const QString busy = QStringLiteral("Applying…");
     auto* apply = new PushButton(QString(), QString(), PushButton::Kind::prominent);
+    apply->setWidestText(busy);
     apply->setTint(&Colours::accent);
     apply->setControlSize(PushButton::Size::large);
     apply->setToolTip(QStringLiteral("Apply configuration — ") + keys::text(keys::apply));
@@ -36,8 +38,8 @@ ActionHeader::ActionHeader(MainViewModel& vm, QWidget* parent) : QWidget(parent)
         [apply](bool possible) { apply->setUsable(possible); });
     bind(
         apply, [&vm] { return vm.isApplying.value(); },
-        [apply](bool applying) {
-            apply->setText(applying ? QStringLiteral("Applying…") : QStringLiteral("Apply"));
+        [apply, busy](bool applying) {
+            apply->setText(applying ? busy : QStringLiteral("Apply"));
             apply->setSymbol(applying ? QString() : QStringLiteral("checkmark.circle.fill"));
             apply->setSpinning(applying, 0.75);
         });

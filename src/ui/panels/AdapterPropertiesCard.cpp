@@ -8,7 +8,9 @@
 #include "ui/elements/TextLabel.h"
 
 #include <QPainter>
+#include <QStackedLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace ardeo
@@ -69,7 +71,10 @@ QWidget* makeStatusRow(MainViewModel& vm)
 QWidget* makeLiveState(MainViewModel& vm)
 {
     auto* live = new QWidget;
-    auto* stack = columnIn(live, 4);
+    // Room that the font keeps above its letters counts as a part of the gap.
+    const QFont font = look::monospacedFont(TextStyle::body);
+    const int spare = QFontMetrics(font).height() - look::lineHeight(font);
+    auto* stack = columnIn(live, std::max(0, 4 - spare));
     stack->addWidget(makeStatusRow(vm));
 
     using Read = QString (*)(const NetworkAdapterInfo&);
@@ -113,22 +118,21 @@ QWidget* makeLiveState(MainViewModel& vm)
 QWidget* makeContent(MainViewModel& vm)
 {
     auto* content = new QWidget;
-    auto* layers = columnIn(content, 0);
-    auto* loading = new QWidget(content);
-    auto* row = rowIn(loading, 8);
+    auto* layers = new QStackedLayout(content); // as high as the live state, whichever is shown
+    auto* loading = new QWidget;
+    auto* column = columnIn(loading, 0);
+    auto* row = rowIn(column, 8);
     row->addWidget(new Spinner(0.8));
     row->addWidget(
         new TextLabel(QStringLiteral("Loading…"), look::font(TextStyle::body), Emphasis::secondary));
     row->addStretch();
+    column->addStretch();
     QWidget* live = makeLiveState(vm);
     layers->addWidget(loading);
     layers->addWidget(live);
     bind(
         content, [&vm] { return vm.isLoading.value(); },
-        [loading, live](bool isLoading) {
-            (isLoading ? live : loading)->hide();
-            (isLoading ? loading : live)->show();
-        });
+        [layers, loading, live](bool isLoading) { layers->setCurrentWidget(isLoading ? loading : live); });
     return content;
 }
 
