@@ -35,8 +35,12 @@ void AppDelegate::applicationDidFinishLaunching() const
 
 void AppDelegate::showMainWindow() const
 {
-    if (mainWindow)
-        bringToFront(*mainWindow);
+    if (!mainWindow)
+        return;
+    // The place is named once more, or the window manager would not know that it is meant.
+    if (mainWindow->isHidden() && mainWindow->restoreGeometry(m_place))
+        mainWindow->windowHandle()->setGeometry(mainWindow->geometry());
+    bringToFront(*mainWindow);
 }
 
 void AppDelegate::hideMainWindow()
@@ -44,6 +48,7 @@ void AppDelegate::hideMainWindow()
     if (!mainWindow)
         return;
     if (hasMenuBarExtra()) {
+        m_place = mainWindow->saveGeometry();
         mainWindow->hide();
         // Nobody sees it, maybe for days. Its picture is made anew when it is shown and the size is not its
         // own; and what has been freed would stay ours otherwise.

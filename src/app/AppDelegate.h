@@ -22,7 +22,7 @@ public:
     void applicationDidFinishLaunching() const;
     static bool applicationShouldTerminateAfterLastWindowClosed() { return false; }
 
-    /// Brings the main window to the front, from wherever it is.
+    /// Brings the main window to the front, from wherever it is; a hidden one comes back where it was.
     void showMainWindow() const;
     /// Takes the main window off the screen and the program out of the task switcher. On a desktop that has
     /// no place for the tray icon the window is minimised instead, and the first time this says why.
@@ -31,6 +31,8 @@ public:
     static void hide();
 
 private:
+    /// Where the hidden window was: window managers find a new place for what is shown again.
+    QByteArray m_place;
     bool m_hasExplained = false;
 };
 
