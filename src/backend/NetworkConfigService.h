@@ -1,7 +1,7 @@
 #pragma once
 
 #include "backend/AdapterInfo.h"
-#include "backend/NetworkAdapterInfo.h"
+#include "backend/ServiceWriting.h"
 #include "platform/SystemConfiguration.h"
 
 #include <QFuture>
@@ -12,17 +12,6 @@
 
 namespace ardeo
 {
-
-/// A part of a service's configuration that can be written alone.
-enum class Setting : quint8 {
-    ipv4Mode = 1,
-    /// The address with its subnet mask.
-    address = 2,
-    router = 4,
-    dnsServers = 8,
-    searchDomains = 16,
-};
-Q_DECLARE_FLAGS(Settings, Setting)
 
 /// The only part that touches the system's network configuration. Its operations run one after the other on a
 /// thread of its own, so that their blocking calls never hold up the caller; the futures finish there. Each

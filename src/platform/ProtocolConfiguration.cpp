@@ -1,5 +1,7 @@
 #include "platform/ProtocolConfiguration.h"
 
+#include "platform/ConfigurationKeys.h"
+
 #include <algorithm>
 #include <bit>
 
@@ -130,15 +132,15 @@ QString maskFromPrefix(int prefix)
 Checked<IPv4Configuration> checkedIPv4(const Dictionary& dictionary)
 {
     using Setting = SettingFault::Setting;
-    const QVariant method = dictionary.value(QStringLiteral("ConfigMethod"));
-    if (method == QVariant(QStringLiteral("DHCP")))
+    const QVariant method = dictionary.value(configMethodKey);
+    if (method == QVariant(methodDHCP))
         return IPv4Configuration{};
-    if (method != QVariant(QStringLiteral("Manual")))
+    if (method != QVariant(methodManual))
         return SettingFault{Setting::method, method.toString(),
                             QStringLiteral("The addresses are set neither by DHCP nor by hand.")};
 
-    const auto addresses = texts(dictionary, QStringLiteral("Addresses"));
-    const auto masks = texts(dictionary, QStringLiteral("SubnetMasks"));
+    const auto addresses = texts(dictionary, addressesKey);
+    const auto masks = texts(dictionary, subnetMasksKey);
     if (!addresses || addresses->isEmpty())
         return addressFault(Setting::address, QStringLiteral("The IP address"), {});
     if (!masks || addresses->size() != masks->size())
@@ -153,7 +155,7 @@ Checked<IPv4Configuration> checkedIPv4(const Dictionary& dictionary)
         configuration.addresses.append({addresses->at(i), *prefix});
     }
 
-    const QVariant given = dictionary.value(QStringLiteral("Router"));
+    const QVariant given = dictionary.value(routerKey);
     const QString gateway = given.toString();
     const bool isText = !given.isValid() || given.typeId() == QMetaType::QString;
     if (isText && holdsOnlyDots(gateway))
@@ -170,8 +172,8 @@ Checked<IPv4Configuration> checkedIPv4(const Dictionary& dictionary)
 Checked<DNSConfiguration> checkedDNS(const Dictionary& dictionary)
 {
     using Setting = SettingFault::Setting;
-    const auto servers = texts(dictionary, QStringLiteral("ServerAddresses"));
-    const auto domains = texts(dictionary, QStringLiteral("SearchDomains"));
+    const auto servers = texts(dictionary, serverAddressesKey);
+    const auto domains = texts(dictionary, searchDomainsKey);
     if (!servers)
         return addressFault(Setting::dnsServer, QStringLiteral("The DNS server"), {});
     if (!domains)

@@ -1,5 +1,6 @@
 #include "platform/ServiceChanges.h"
 
+#include "platform/ConfigurationKeys.h"
 #include "platform/ProtocolConfiguration.h"
 
 namespace ardeo
@@ -7,13 +8,6 @@ namespace ardeo
 
 namespace
 {
-
-const QString methodKey = QStringLiteral("ConfigMethod");
-const QString addressesKey = QStringLiteral("Addresses");
-const QString masksKey = QStringLiteral("SubnetMasks");
-const QString routerKey = QStringLiteral("Router");
-const QString serversKey = QStringLiteral("ServerAddresses");
-const QString domainsKey = QStringLiteral("SearchDomains");
 
 QVariant textOrGone(const std::optional<QString>& text)
 {
@@ -40,12 +34,13 @@ Dictionary replacing(const Dictionary& present, const Dictionary& wanted)
 
 bool ServiceChanges::asksForLease() const
 {
-    return ipv4 && (ipv4->contains(methodKey) || !dns || dns->isEmpty());
+    return ipv4 && (ipv4->contains(configMethodKey) || !dns || dns->isEmpty());
 }
 
 Dictionary changed(Dictionary settings, const Dictionary& changes)
 {
-    if (changes.contains(methodKey) && changes.value(methodKey) != settings.value(methodKey))
+    if (changes.contains(configMethodKey) &&
+        changes.value(configMethodKey) != settings.value(configMethodKey))
         settings.clear();
     for (auto change = changes.begin(); change != changes.end(); ++change) {
         if (change->isValid())
@@ -61,7 +56,7 @@ Dictionary ipv4Differences(const Dictionary& present, const Dictionary& wanted)
     const auto checked = checkedIPv4(wanted);
     if (!checked)
         return replacing(present, wanted);
-    const bool isManual = present.value(methodKey) == QVariant(QStringLiteral("Manual"));
+    const bool isManual = present.value(configMethodKey) == QVariant(methodManual);
     if (checked->manual != isManual)
         return wanted;
     Dictionary changes;
@@ -71,9 +66,9 @@ Dictionary ipv4Differences(const Dictionary& present, const Dictionary& wanted)
         return settings.value(key).toStringList().value(0);
     };
     if (first(present, addressesKey) != first(wanted, addressesKey) ||
-        first(present, masksKey) != first(wanted, masksKey)) {
+        first(present, subnetMasksKey) != first(wanted, subnetMasksKey)) {
         changes[addressesKey] = wanted[addressesKey];
-        changes[masksKey] = wanted[masksKey];
+        changes[subnetMasksKey] = wanted[subnetMasksKey];
     }
     if (present.value(routerKey).toString() != checked->router.value_or(QString()))
         changes[routerKey] = textOrGone(checked->router);
@@ -85,14 +80,14 @@ Dictionary dnsDifferences(const Dictionary& present, const Dictionary& wanted)
     const auto checked = checkedDNS(wanted);
     if (!checked)
         return replacing(present, wanted);
-    const QStringList servers = present.value(serversKey).toStringList();
+    const QStringList servers = present.value(serverAddressesKey).toStringList();
     Dictionary changes;
     if (servers.mid(0, 2) != checked->serverAddresses)
-        changes[serversKey] = listOrGone(checked->serverAddresses);
+        changes[serverAddressesKey] = listOrGone(checked->serverAddresses);
     const bool domainsAreShown =
         !servers.isEmpty() || !checked->searchDomains.isEmpty() || !changes.isEmpty();
-    if (domainsAreShown && present.value(domainsKey).toStringList() != checked->searchDomains)
-        changes[domainsKey] = listOrGone(checked->searchDomains);
+    if (domainsAreShown && present.value(searchDomainsKey).toStringList() != checked->searchDomains)
+        changes[searchDomainsKey] = listOrGone(checked->searchDomains);
     return changes;
 }
 

@@ -3,6 +3,7 @@
 #include "platform/AdvisoryLock.h"
 #include "platform/ProtocolConfiguration.h"
 #include "platform/ServiceChanges.h"
+#include "platform/simulated/SimulatedState.h"
 
 #include <fcntl.h>
 #include <utility>
@@ -305,58 +306,6 @@ private:
     bool m_authorized;
     AdvisoryLock m_lock;
     std::optional<std::vector<std::shared_ptr<ServiceRecord>>> m_records;
-};
-
-class SimulatedState final : public DynamicStore
-{
-public:
-    explicit SimulatedState(Json machine) : m_machine(std::move(machine)) {}
-
-    std::optional<QVariant> value(const QString& key) override
-    {
-        const Json* services = member(m_machine, "services");
-        if (!services || !services->is_array())
-            return std::nullopt;
-        for (const Json& service : *services) {
-            if (key == QStringLiteral("State:/Network/Service/%1/IPv4")
-                           .arg(textMember(service, "id").value_or(QString())))
-                return entry(service, "live");
-            const Json* interface = member(service, "interface");
-            if (!interface)
-                continue;
-            const QString prefix = QStringLiteral("State:/Network/Interface/%1/")
-                                       .arg(textMember(*interface, "bsdName").value_or(QString()));
-            if (key == prefix + QStringLiteral("Link"))
-                return entry(service, "link");
-            if (key == prefix + QStringLiteral("DHCP"))
-                return lease(service);
-        }
-        return std::nullopt;
-    }
-
-    std::optional<QString> computerName() override { return textMember(m_machine, "computerName"); }
-
-private:
-    static std::optional<QVariant> entry(const Json& service, const char* key)
-    {
-        const Json* value = member(service, key);
-        return value ? std::optional(valueFromJson(*value)) : std::nullopt;
-    }
-
-    static std::optional<QVariant> lease(const Json& service)
-    {
-        const Json* protocols = member(service, "protocols");
-        const Json* ipv4 = protocols ? member(*protocols, "IPv4") : nullptr;
-        const Json* network = member(service, "network");
-        const Json* server = network ? member(*network, "ServerAddress") : nullptr;
-        const bool leased =
-            ipv4 && textMember(*ipv4, "ConfigMethod") == QStringLiteral("DHCP") && member(service, "live");
-        if (!leased || !server)
-            return std::nullopt;
-        return Dictionary{{QStringLiteral("ServerAddress"), valueFromJson(*server)}};
-    }
-
-    Json m_machine;
 };
 
 } // namespace

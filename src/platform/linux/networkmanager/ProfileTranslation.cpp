@@ -1,5 +1,7 @@
 #include "platform/linux/networkmanager/ProfileTranslation.h"
 
+#include "platform/ConfigurationKeys.h"
+
 #include <sys/socket.h>
 
 namespace ardeo
@@ -7,12 +9,6 @@ namespace ardeo
 
 namespace
 {
-
-const QString addressesKey = QStringLiteral("Addresses");
-const QString masksKey = QStringLiteral("SubnetMasks");
-const QString routerKey = QStringLiteral("Router");
-const QString serversKey = QStringLiteral("ServerAddresses");
-const QString domainsKey = QStringLiteral("SearchDomains");
 
 struct AddressList {
     QStringList addresses;
@@ -27,7 +23,7 @@ struct AddressList {
         if (addresses.isEmpty())
             return;
         dictionary[addressesKey] = addresses;
-        dictionary[masksKey] = masks;
+        dictionary[subnetMasksKey] = masks;
     }
 };
 
@@ -43,13 +39,12 @@ Dictionary ipv4DictionaryOf(NMConnection* profile)
     NMSettingIPConfig* ipv4 = ipv4Of(profile);
     Dictionary dictionary;
     const QString method = QString::fromUtf8(nm_setting_ip_config_get_method(ipv4));
-    const QString key = QStringLiteral("ConfigMethod");
     if (method == QLatin1String(NM_SETTING_IP4_CONFIG_METHOD_AUTO))
-        dictionary[key] = QStringLiteral("DHCP");
+        dictionary[configMethodKey] = methodDHCP;
     else if (method == QLatin1String(NM_SETTING_IP4_CONFIG_METHOD_MANUAL))
-        dictionary[key] = QStringLiteral("Manual");
+        dictionary[configMethodKey] = methodManual;
     else
-        dictionary[key] = method;
+        dictionary[configMethodKey] = method;
 
     AddressList list;
     for (guint i = 0; i < nm_setting_ip_config_get_num_addresses(ipv4); ++i)
@@ -71,9 +66,9 @@ Dictionary dnsDictionaryOf(NMConnection* profile)
         domains.append(QString::fromUtf8(nm_setting_ip_config_get_dns_search(ipv4, static_cast<int>(i))));
     Dictionary dictionary;
     if (!servers.isEmpty())
-        dictionary[serversKey] = servers;
+        dictionary[serverAddressesKey] = servers;
     if (!domains.isEmpty())
-        dictionary[domainsKey] = domains;
+        dictionary[searchDomainsKey] = domains;
     return dictionary;
 }
 
@@ -98,7 +93,7 @@ void changeIPv4(NMConnection* profile, const IPv4Configuration& configuration, c
     const char* method =
         configuration.manual ? NM_SETTING_IP4_CONFIG_METHOD_MANUAL : NM_SETTING_IP4_CONFIG_METHOD_AUTO;
     const bool isOther = QByteArrayView(nm_setting_ip_config_get_method(ipv4)) != method;
-    if (isOther || changes.contains(addressesKey) || changes.contains(masksKey)) {
+    if (isOther || changes.contains(addressesKey) || changes.contains(subnetMasksKey)) {
         nm_setting_ip_config_clear_addresses(ipv4);
         for (const auto& [text, prefix] : configuration.addresses) {
             NMIPAddress* address =
@@ -120,12 +115,12 @@ void changeIPv4(NMConnection* profile, const IPv4Configuration& configuration, c
 void changeDNS(NMConnection* profile, const DNSConfiguration& configuration, const Dictionary& changes)
 {
     NMSettingIPConfig* ipv4 = ipv4Of(profile);
-    if (changes.contains(domainsKey)) {
+    if (changes.contains(searchDomainsKey)) {
         nm_setting_ip_config_clear_dns_searches(ipv4);
         for (const QString& domain : configuration.searchDomains)
             nm_setting_ip_config_add_dns_search(ipv4, domain.toUtf8().constData());
     }
-    if (!changes.contains(serversKey))
+    if (!changes.contains(serverAddressesKey))
         return;
     nm_setting_ip_config_clear_dns(ipv4);
     for (const QString& server : configuration.serverAddresses)
