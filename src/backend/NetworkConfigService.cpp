@@ -66,6 +66,12 @@ NetworkConfigService::NetworkConfigService(SystemConfiguration& system) : m_syst
 {
     m_thread.setMaxThreadCount(1);
     m_thread.setExpiryTimeout(-1);
+    m_system.observeWaiting([this](const std::optional<LockHolder>& holder) {
+        if (holder)
+            Q_EMIT waitingBegan(holder->processID.value_or(0));
+        else
+            Q_EMIT waitingEnded();
+    });
 }
 
 NetworkConfigService::~NetworkConfigService()

@@ -5,6 +5,7 @@
 #include "platform/SystemConfiguration.h"
 
 #include <QFuture>
+#include <QObject>
 #include <QThreadPool>
 
 #include <condition_variable>
@@ -17,14 +18,16 @@ namespace ardeo
 /// thread of its own, so that their blocking calls never hold up the caller; the futures finish there. Each
 /// operation opens what it needs of the system, and has released it before the next one begins: nothing is
 /// cached. When no other one follows at once, the system may rest.
-class NetworkConfigService
+class NetworkConfigService final : public QObject
 {
+    Q_OBJECT
+
 public:
     explicit NetworkConfigService(SystemConfiguration& system);
     NetworkConfigService(const NetworkConfigService&) = delete;
     NetworkConfigService& operator=(const NetworkConfigService&) = delete;
     /// Waits for the operation that is running, and for what it has to release.
-    ~NetworkConfigService();
+    ~NetworkConfigService() override;
 
     /// The services of the current set, active ones first, then by name. Empty when they cannot be read.
     QFuture<QList<AdapterInfo>> listAdapters();
@@ -36,9 +39,12 @@ public:
                                      AuthorizationRef authorization, std::optional<Settings> named = {});
     /// Switches the service on or off, also when it is so already. Fails with ConfigError.
     QFuture<void> setServiceEnabled(bool enabled, const Text& serviceName, AuthorizationRef authorization);
-    /// Has the observer told whom an operation waits for, and with none that it waits no longer; on the
-    /// service's thread.
-    void observeWaiting(WaitingObserver observer) { m_system.observeWaiting(std::move(observer)); }
+
+Q_SIGNALS:
+    /// An operation waits for another program, by its process number, or 0 where that cannot be told. Both
+    /// are emitted on the service's thread.
+    void waitingBegan(qint64 processID);
+    void waitingEnded();
 
 private:
     template <typename Operation>

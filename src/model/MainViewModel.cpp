@@ -2,7 +2,6 @@
 
 #include "backend/Errors.h"
 
-#include <QCoreApplication>
 #include <QCoroFuture>
 #include <QFileInfo>
 
@@ -46,15 +45,7 @@ QString joinDomains(const QList<Text>& domains)
 
 std::shared_ptr<MainViewModel> MainViewModel::create(Platform& platform)
 {
-    auto model = std::make_shared<MainViewModel>(Key(), platform);
-    model->configService.observeWaiting(
-        [weak = std::weak_ptr(model)](const std::optional<LockHolder>& holder) {
-            QMetaObject::invokeMethod(QCoreApplication::instance(), [weak, holder] {
-                if (const auto alive = weak.lock())
-                    alive->noteWaiting(holder);
-            });
-        });
-    return model;
+    return std::make_shared<MainViewModel>(Key(), platform);
 }
 
 MainViewModel::MainViewModel(Key, Platform& platform)
@@ -64,6 +55,13 @@ MainViewModel::MainViewModel(Key, Platform& platform)
     , authService(*platform.authorization)
     , presetStore(*platform.userDefaults)
 {
+    const auto connect = [this](auto signal, auto slot) {
+        QObject::connect(&configService, signal, &configService, slot, Qt::QueuedConnection);
+    };
+    connect(&NetworkConfigService::waitingBegan, [this](qint64 processID) {
+        noteWaiting(LockHolder{processID == 0 ? std::nullopt : std::optional(processID)});
+    });
+    connect(&NetworkConfigService::waitingEnded, [this] { noteWaiting(std::nullopt); });
 }
 
 bool MainViewModel::hasChanges() const

@@ -158,6 +158,7 @@ inline Canvas literalFrame(QSizeF size, double time, ColorScheme scheme, double 
     QPainterPathStroker stroker;
     stroker.setCapStyle(Qt::FlatCap);
     std::vector<QPointF> positions;
+    positions.reserve(literalNodes.size());
     for (const auto& [xFreq, yFreq, xPhase, yPhase] : literalNodes) {
         positions.emplace_back(size.width() * (0.5 + 0.46 * std::sin(time * 0.25 * xFreq + xPhase)),
                                size.height() * (0.5 + 0.47 * std::cos(time * 0.25 * yFreq + yPhase)));

@@ -30,37 +30,63 @@ constexpr double nodeGlowRadius = 4.8;
 constexpr double nodeGlowBlur = 5;
 constexpr double dotRadius = 1.6;
 constexpr double finalBlur = 2.5;
-constexpr double interpolation = networkCell * networkCell / 6.0;
 constexpr double glowShare = 0.45; // of the link's own opacity
 constexpr double nodeGlowOpacity = 0.35;
 constexpr double dotOpacity = 0.5;
-/// The standard normal density and distribution, up to where nothing is left of them.
-class Normal
+constexpr double finalVariance = finalBlur * finalBlur - networkCell * networkCell / 6.0;
+constexpr double glowVariance = glowBlur * glowBlur + glowWidth * glowWidth / 12 + finalVariance;
+constexpr double lineVariance = lineWidth * lineWidth / 12 + finalVariance;
+constexpr double nodeGlowVariance =
+    nodeGlowBlur * nodeGlowBlur + nodeGlowRadius * nodeGlowRadius / 4 + finalVariance;
+constexpr double dotVariance = dotRadius * dotRadius / 4 + finalVariance;
+/// Deviations beyond which nothing is left of a Gaussian.
+constexpr double reach = 3;
+const double glowReach = reach * std::sqrt(glowVariance);
+/// How sharp a link's ends are, between those of its line and of its glow.
+const double endDeviation = std::sqrt((lineVariance + glowVariance) / 2);
+
+double gaussian(double distance, double variance)
+{
+    return std::exp(-distance * distance / (2 * variance)) / std::sqrt(2 * std::numbers::pi * variance);
+}
+/// A function of a distance either way, in points, looked up.
+class Profile
 {
 public:
-    static constexpr float reach = 3;
-
-    Normal()
+    template <typename Function>
+    explicit Profile(Function function)
     {
-        for (size_t i = 0; i < count; ++i) {
-            const double t = (static_cast<double>(i) + 0.5) / steps - reach;
-            m_density[i] = static_cast<float>(std::exp(-t * t / 2) / std::sqrt(2 * std::numbers::pi));
-            m_distribution[i] = static_cast<float>(std::erfc(-t / std::numbers::sqrt2) / 2);
-        }
+        for (size_t i = 0; i < samples.size(); ++i)
+            samples[i] = function((static_cast<double>(i) + 0.5) / steps);
     }
-    float density(float t) const { return m_density[index(t)]; }
-    float distribution(float t) const { return m_distribution[index(t)]; }
+    double at(double distance) const
+    {
+        return samples[std::min(static_cast<size_t>(std::abs(distance) * steps), samples.size() - 1)];
+    }
 
 private:
-    static constexpr int steps = 64;
-    static constexpr int count = static_cast<int>(2 * reach) * steps;
-    static size_t index(float t) { return size_t(int(std::clamp((t + reach) * steps, 0.0F, count - 1.0F))); }
-
-    std::array<float, count> m_density{};
-    std::array<float, count> m_distribution{};
+    static constexpr int steps = 16; // a point
+    std::array<double, 20 * steps> samples{};
 };
 
-const Normal normal;
+/// A link across its direction, with its glow, and how much of it there is that far from where its end begins
+/// to show.
+const Profile across([](double distance) {
+    return lineWidth * gaussian(distance, lineVariance) +
+           glowShare * glowWidth * gaussian(distance, glowVariance);
+});
+const Profile ending([](double distance) {
+    return std::erfc((distance - reach * endDeviation) / endDeviation / std::numbers::sqrt2) / 2;
+});
+
+/// A disc is as deep as its area makes it, shared out over both ways.
+Profile discProfile(double radius, double opacity, double variance)
+{
+    const double depth = radius * std::sqrt(opacity * std::numbers::pi);
+    return Profile([=](double distance) { return depth * gaussian(distance, variance); });
+}
+const Profile nodeGlow = discProfile(nodeGlowRadius, nodeGlowOpacity, nodeGlowVariance);
+const Profile dot = discProfile(dotRadius, dotOpacity, dotVariance);
 
 /// Optical depths at the middle of each cell.
 struct Plane {
@@ -69,7 +95,6 @@ struct Plane {
         std::vector<float>(static_cast<size_t>(size.width()) * static_cast<size_t>(size.height()));
     float* row(int y) { return depths.data() + static_cast<ptrdiff_t>(y) * size.width(); }
 };
-
 /// The first of the cells whose middles lie between two coordinates, and the one behind the last.
 std::pair<int, int> cellsBetween(double from, double to, int count)
 {
@@ -79,98 +104,73 @@ std::pair<int, int> cellsBetween(double from, double to, int count)
     return {cell(from), cell(to)};
 }
 
-constexpr float middle(int cell)
+constexpr double middle(int cell)
 {
-    return (static_cast<float>(cell) + 0.5F) * networkCell;
+    return (cell + 0.5) * networkCell;
 }
 
-/// A straight line with flat ends, its blurs summed up in one variance.
-void addLine(Plane& plane, const NodeLink& link, double opacity, double width, double variance)
+void addLink(Plane& plane, const NodeLink& link)
 {
-    const double deviation = std::sqrt(variance + width * width / 12 - interpolation);
-    const double reach = Normal::reach * deviation;
     const QPointF way = link.to - link.from;
-    const double length = std::hypot(way.x(), way.y());
-    if (length == 0)
-        return;
-    // All is in deviations from here: v along the line from its beginning, u across from its middle.
-    const QPointF unit = way / length / deviation;
-    const auto depth = static_cast<float>(opacity * width / deviation);
-    const auto end = static_cast<float>(length / deviation);
-    const auto alongStep = static_cast<float>(unit.x() * networkCell);
-    const auto acrossStep = static_cast<float>(unit.y() * networkCell);
+    const double length = std::max(std::hypot(way.x(), way.y()), 1e-6);
+    // Both from the link's middle: v along it, u across.
+    const QPointF unit = way / length;
+    const QPointF centre = (link.from + link.to) / 2;
+    const QPointF step = unit * networkCell;
+    const double whole = length / 2 - reach * endDeviation;
     const auto [top, bottom] =
-        cellsBetween(std::min(link.from.y(), link.to.y()) - reach,
-                     std::max(link.from.y(), link.to.y()) + reach, plane.size.height());
+        cellsBetween(std::min(link.from.y(), link.to.y()) - glowReach,
+                     std::max(link.from.y(), link.to.y()) + glowReach, plane.size.height());
     for (int y = top; y < bottom; ++y) {
-        const double dy = middle(y) - link.from.y();
-        // Where this row is near enough to the line: within its reach across, and not far behind its ends.
-        double left = std::min(link.from.x(), link.to.x()) - reach;
-        double right = std::max(link.from.x(), link.to.x()) + reach;
-        if (unit.y() != 0) {
-            const double centre = link.from.x() + dy * unit.x() / unit.y();
-            const double half = Normal::reach / std::abs(unit.y());
-            left = std::max(left, centre - half);
-            right = std::min(right, centre + half);
-        }
-        const auto [begin, past] = cellsBetween(left, right, plane.size.width());
-        const double dx = middle(begin) - link.from.x();
-        const auto v = static_cast<float>(dx * unit.x() + dy * unit.y());
-        const auto u = static_cast<float>(dx * unit.y() - dy * unit.x());
-        float* const first = plane.row(y) + begin;
-        for (int i = 0; i < past - begin; ++i) {
-            const float here = v + static_cast<float>(i) * alongStep;
-            const bool isNearEnd = here < Normal::reach || here > end - Normal::reach;
-            const float along = isNearEnd ? normal.distribution(here) - normal.distribution(here - end) : 1;
-            first[i] += depth * along * normal.density(u + static_cast<float>(i) * acrossStep);
+        const double dy = middle(y) - centre.y();
+        // Where this row is near enough to the link: within its reach across, and not far behind its ends.
+        const double slope = std::max(std::abs(unit.y()), 1e-6);
+        const double nearest = centre.x() + dy * unit.x() * (unit.y() < 0 ? -1 : 1) / slope;
+        const auto [begin, past] = cellsBetween(
+            std::max(std::min(link.from.x(), link.to.x()) - glowReach, nearest - glowReach / slope),
+            std::min(std::max(link.from.x(), link.to.x()) + glowReach, nearest + glowReach / slope),
+            plane.size.width());
+        const double dx = middle(begin) - centre.x();
+        double v = dx * unit.x() + dy * unit.y();
+        double u = dx * unit.y() - dy * unit.x();
+        float* const row = plane.row(y);
+        for (int x = begin; x < past; ++x, v += step.x(), u += step.y()) {
+            const double there = ending.at(std::max(std::abs(v) - whole, 0.0));
+            row[x] += static_cast<float>(link.opacity * across.at(u) * there);
         }
     }
 }
 
-void addDisc(Plane& plane, QPointF centre, double radius, double opacity, double variance)
+/// A disc that is, each way, what the profile says of the distance.
+void addDisc(Plane& plane, QPointF centre, const Profile& profile, double far)
 {
-    const double deviation = std::sqrt(variance + radius * radius / 4 - interpolation);
-    const double reach = Normal::reach * deviation;
-    const double depth = opacity * std::numbers::pi * std::pow(radius / deviation, 2);
-    const auto [top, bottom] = cellsBetween(centre.y() - reach, centre.y() + reach, plane.size.height());
-    const auto [begin, past] = cellsBetween(centre.x() - reach, centre.x() + reach, plane.size.width());
-    const auto density = [deviation](double distance) {
-        return normal.density(static_cast<float>(distance / deviation));
-    };
+    const auto [top, bottom] = cellsBetween(centre.y() - far, centre.y() + far, plane.size.height());
+    const auto [begin, past] = cellsBetween(centre.x() - far, centre.x() + far, plane.size.width());
     for (int y = top; y < bottom; ++y) {
-        const float here = static_cast<float>(depth) * density(middle(y) - centre.y());
+        const double here = profile.at(middle(y) - centre.y());
         for (int x = begin; x < past; ++x)
-            plane.row(y)[x] += here * density(middle(x) - centre.x());
+            plane.row(y)[x] += static_cast<float>(here * profile.at(middle(x) - centre.x()));
     }
-}
-
-QVector3D channels(QColor colour)
-{
-    return {colour.redF() * 255, colour.greenF() * 255, colour.blueF() * 255};
 }
 
 } // namespace
 
 QImage drawNetwork(QSizeF size, double time, double maxDist, double speed, ColorScheme scheme, QColor ground)
 {
-    constexpr double blur = finalBlur * finalBlur;
     const QSize cells = QRectF(QPointF(), size / networkCell).toAlignedRect().size();
     Plane links{cells};
     Plane dots{cells};
     const std::vector<QPointF> positions = nodePositions(size, time, speed);
-    for (const NodeLink& link : linksBetween(positions, maxDist)) {
-        addLine(links, link, link.opacity * glowShare, glowWidth, glowBlur * glowBlur + blur);
-        addLine(links, link, link.opacity, lineWidth, blur);
-    }
+    for (const NodeLink& link : linksBetween(positions, maxDist))
+        addLink(links, link);
     for (const QPointF& position : positions) {
-        addDisc(links, position, nodeGlowRadius, nodeGlowOpacity, nodeGlowBlur * nodeGlowBlur + blur);
-        addDisc(dots, position, dotRadius, dotOpacity, blur);
+        addDisc(links, position, nodeGlow, reach * std::sqrt(nodeGlowVariance));
+        addDisc(dots, position, dot, reach * std::sqrt(dotVariance));
     }
     const bool dark = scheme == ColorScheme::dark;
-    const QVector3D link =
-        channels(dark ? QColor::fromRgbF(0.1F, 0.4F, 0.95F) : QColor::fromRgbF(0, 0.55F, 0.75F));
-    const QVector3D dot = channels(dark ? QColor(Qt::white) : QColor::fromRgbF(0.1F, 0.3F, 0.6F));
-    const QVector3D behind = channels(ground);
+    const QVector3D linkColour = dark ? QVector3D(25.5F, 102, 242.25F) : QVector3D(0, 140.25F, 191.25F);
+    const QVector3D dotColour = dark ? QVector3D(255, 255, 255) : QVector3D(25.5F, 76.5F, 153);
+    const QVector3D behind = QVector3D(ground.redF(), ground.greenF(), ground.blueF()) * 255;
     QImage picture(cells, QImage::Format_RGB32);
     picture.fill(ground);
     for (int y = 0; y < cells.height(); ++y) {
@@ -180,9 +180,9 @@ QImage drawNetwork(QSizeF size, double time, double maxDist, double speed, Color
         for (int x = 0; x < cells.width(); ++x) {
             if (linkDepths[x] <= 0)
                 continue;
-            QVector3D colour = link + (behind - link) * std::exp(-linkDepths[x]);
+            QVector3D colour = linkColour + (behind - linkColour) * std::exp(-linkDepths[x]);
             if (dotDepths[x] > 0)
-                colour = dot + (colour - dot) * std::exp(-dotDepths[x]);
+                colour = dotColour + (colour - dotColour) * std::exp(-dotDepths[x]);
             pixels[x] = qRgb(qRound(colour.x()), qRound(colour.y()), qRound(colour.z()));
         }
     }

@@ -167,13 +167,20 @@ SystemStatus NetworkManagerActivation::waitForIPv4(const char* path, NMDevice* d
         return SystemStatus::ok;
     if (settled && !nm_client_get_nm_running(client))
         return SystemStatus::noStoreServer;
-    if (settled) {
-        const bool lostItsCable = device && readinessOf(device) == Readiness::unready;
-        return lostItsCable && daemonTriesAgain() ? SystemStatus::ok : SystemStatus::failed;
-    }
+    if (settled)
+        return hasLostItsCable(device) && daemonTriesAgain() ? SystemStatus::ok : SystemStatus::failed;
     // The other side (an access point, an authenticator) takes its time; the daemon goes on by itself.
     const bool waitsForOthers = active && deviceStateOf(active.get()) < NM_DEVICE_STATE_IP_CONFIG;
     return waitsForOthers && m_session.catchUp() ? SystemStatus::ok : SystemStatus::noStoreServer;
+}
+
+/// The activation ends a moment before the device tells why.
+bool NetworkManagerActivation::hasLostItsCable(NMDevice* device)
+{
+    constexpr int moment = 1000;
+    const QDeadlineTimer limit = std::min(m_session.deadline(), QDeadlineTimer(moment));
+    return device &&
+           m_session.loop().runUntil(limit, [device] { return readinessOf(device) == Readiness::unready; });
 }
 
 /// The daemon takes the end of an activation for the user's wish that the profile is never connected by

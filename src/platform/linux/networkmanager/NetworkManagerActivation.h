@@ -41,6 +41,7 @@ private:
     SystemStatus deactivate(const char* path);
     bool isOnDHCP() const;
     bool daemonTriesAgain() const;
+    bool hasLostItsCable(NMDevice* device);
     bool reapply(NMDevice* device);
     bool replaceByStandIn(NMActiveConnection* active);
 

@@ -182,7 +182,8 @@ std::vector<std::shared_ptr<Profile>> listProfiles(NMClient* client)
 
 bool isPersonal(NMConnection* profile)
 {
-    return nm_setting_connection_get_num_permissions(nm_connection_get_setting_connection(profile)) == 1;
+    NMSettingConnection* common = nm_connection_get_setting_connection(profile);
+    return common && nm_setting_connection_get_num_permissions(common) == 1;
 }
 
 bool hasPersonalProfiles(NMClient* client)
