@@ -9,23 +9,18 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QThreadPool>
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <malloc.h>
 #include <memory>
 #include <string_view>
 
 using namespace ardeo;
-using namespace std::chrono_literals;
 
 namespace
 {
-
-constexpr auto settlingTime = 100ms;
 
 /// Whether an argument asks for the help or the version, which need no display.
 bool asksForText(int argc, char** argv)
@@ -40,8 +35,6 @@ bool asksForText(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    // The threads hardly ever allocate at once; with an arena for each, each would keep what it has freed.
-    mallopt(M_ARENA_MAX, 1);
     std::unique_ptr<QCoreApplication> application;
     const bool isText = argc > 1 && asksForText(argc, argv);
     if (isText)
@@ -95,24 +88,17 @@ int main(int argc, char** argv)
     platform.filePanels = std::make_unique<DesktopFilePanels>();
     platform.workspace = std::make_unique<DesktopWorkspace>();
 
-    // Qt spreads all but the smallest fillings over this pool; waking its threads takes longer than they do.
-    QThreadPool::globalInstance()->setMaxThreadCount(1);
     const Appearance appearance;
     Ardeo_IPConfigApp app(platform);
     QObject::connect(&desktopApplication, &DesktopApplication::activated, &desktopApplication,
                      [&app] { app.appDelegate.showMainWindow(); });
     app.appDelegate.applicationDidFinishLaunching();
 
-    // What the first window does not need waits until that is up.
-    std::optional<MenuBarMenuView> menu;
-    std::optional<MenuBarExtra> menuBarExtra;
-    platform.clock->sleep(settlingTime).then(application.get(), [&] {
-        QApplication::setWindowIcon(applicationIcon());
-        menu.emplace(*app.vm, app.appDelegate, app.notifications, platform);
-        menuBarExtra.emplace(*menu, app.appDelegate, *platform.clock,
-                             QStringLiteral("Ardeo IP Config on %1").arg(platform.description));
-        app.appDelegate.hasMenuBarExtra = [&menuBarExtra] { return menuBarExtra->isPresent(); };
-    });
+    QApplication::setWindowIcon(applicationIcon());
+    MenuBarMenuView menu(*app.vm, app.appDelegate, app.notifications, platform);
+    const MenuBarExtra menuBarExtra(menu, app.appDelegate, *platform.clock,
+                                    QStringLiteral("Ardeo IP Config on %1").arg(platform.description));
+    app.appDelegate.hasMenuBarExtra = [&menuBarExtra] { return menuBarExtra.isPresent(); };
     const int status = QApplication::exec();
     // Every change has been saved when it was made, and an operation that still runs must not hold up the
     // end.

@@ -12,9 +12,6 @@ namespace
 {
 
 constexpr double borderWidth = 0.5;
-/// Rows that Qt fills without spreading them over a pool of threads; waking these takes longer than the
-/// filling.
-constexpr int stripRows = 64;
 
 } // namespace
 
@@ -55,14 +52,11 @@ void MaterialPanel::paintEvent(QPaintEvent*)
         look::strokeInside(painter, area, m_radius, m_border(colours), borderWidth);
     }
     const double line = std::max(borderWidth, 1 / devicePixelRatioF());
-    for (int top = end; top < height() - end; top += stripRows) {
-        const int rows = std::min(stripRows, height() - end - top);
-        painter.setClipRect(0, top, width(), rows);
-        painter.setClipRect(area, Qt::IntersectClip);
-        fill();
-        for (const double left : {area.left(), area.right() - line})
-            painter.fillRect(QRectF(left, top, line, rows), m_border(colours));
-    }
+    const QRectF middle(0, end, width(), height() - 2 * end);
+    painter.setClipRect(middle & area);
+    fill();
+    for (const double left : {area.left(), area.right() - line})
+        painter.fillRect(QRectF(left, end, line, middle.height()), m_border(colours));
 }
 
 } // namespace ardeo

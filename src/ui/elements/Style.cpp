@@ -255,15 +255,6 @@ int ArdeoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     }
 }
 
-QIcon ArdeoStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
-{
-    // A menu bar asks for the button of the menus that do not fit as soon as it is made. The usual picture is
-    // a file, for which every plugin that reads pictures would be loaded.
-    if (icon == SP_ToolBarHorizontalExtensionButton)
-        return symbolIcon(QStringLiteral("list.bullet"), look::colours(ColorScheme::light).accent);
-    return QProxyStyle::standardIcon(icon, option, widget);
-}
-
 QSize ArdeoStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                    const QWidget* widget) const
 {

@@ -231,7 +231,9 @@ NMDevice* deviceOf(NMActiveConnection* active)
 Readiness readinessOf(NMDevice* device)
 {
     const NMDeviceState state = nm_device_get_state(device);
-    if (state == NM_DEVICE_STATE_DISCONNECTED || state == NM_DEVICE_STATE_FAILED)
+    // What is about to be free takes what is activated on it when it is.
+    if (state == NM_DEVICE_STATE_DISCONNECTED || state == NM_DEVICE_STATE_DEACTIVATING ||
+        state == NM_DEVICE_STATE_FAILED)
         return Readiness::free;
     return state > NM_DEVICE_STATE_DISCONNECTED ? Readiness::held : Readiness::unready;
 }
