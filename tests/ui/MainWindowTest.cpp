@@ -28,6 +28,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <fcntl.h>
 
@@ -92,6 +93,12 @@ struct Window {
         return nullptr;
     }
     void click(const char* name) const { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
+    static void turnWheel(QWidget* below)
+    {
+        QWheelEvent event({}, {}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event); // as if it came from the desktop
+        qApp->notify(below, &event);
+    }
     bool shows(const char* text) const { return find<QLabel>(text) != nullptr; }
     IPAddressField* field(const char* name) const { return find<IPAddressField>(name); }
     PresetList* list() const { return window->findChild<PresetList*>(); }
@@ -332,6 +339,11 @@ private Q_SLOTS:
             QVERIFY(places() == before);
             *state = false;
         }
+        for (const char* over : {"Automatically Set IP Address", "Refresh", "Preferred DNS, part 1 of 4"}) {
+            bar->setValue(0);
+            w.turnWheel(w.find<QWidget>(over));
+            QVERIFY2(bar->value() > 0, over);
+        }
         w.window->resize(900, 680);
         w.model->dnsMode = DNSMode::manual;
         places();
@@ -444,7 +456,9 @@ private Q_SLOTS:
         QTest::keyClick(search, Qt::Key_Escape);
         QVERIFY(w.list()->hasFocus());
         QVERIFY(w.list()->findChildren<QWidget*>().size() < 20);
-        QTest::keyClicks(search, u"999"_s);
+        QTest::keyClicks(search, u"99"_s);
+        w.turnWheel(w.find<PopUpButton>("Select Adapter"));
+        QVERIFY(w.list()->verticalScrollBar()->value() > 0 && w.list()->hasFocus());
         w.model->savePreset(u"New"_s);
         QVERIFY(search->text().isEmpty());
         const int last = w.list()->currentIndex().row();

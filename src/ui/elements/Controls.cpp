@@ -72,6 +72,7 @@ PopUpButton::PopUpButton(QWidget* parent) : QComboBox(parent)
 {
     setFont(look::font(TextStyle::body));
     setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::StrongFocus); // the wheel does nothing here, nor does it bring the focus
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     view()->setTextElideMode(Qt::ElideMiddle);

@@ -12,11 +12,14 @@
 #include "ui/sheets/RenamePresetSheet.h"
 #include "ui/sheets/SavePresetSheet.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStackedLayout>
+#include <QWheelEvent>
 
 namespace ardeo
 {
@@ -68,6 +71,12 @@ LeftPanel::LeftPanel(MainViewModel& model, QWidget* parent) : QWidget(parent), v
 void LeftPanel::paintEvent(QPaintEvent*)
 {
     QPainter(this).fillRect(rect(), look::colours(this).sidebar);
+}
+
+void LeftPanel::wheelEvent(QWheelEvent* event)
+{
+    // Wherever in the panel it is turned, it moves what can be moved.
+    QCoreApplication::sendEvent(m_list->verticalScrollBar(), event);
 }
 
 bool LeftPanel::hasPresets()

@@ -12,7 +12,10 @@
 #include "ui/panels/ProfilePropertiesCard.h"
 #include "ui/sheets/ConfirmationDialog.h"
 
+#include <QCoreApplication>
+#include <QScrollBar>
 #include <QStackedLayout>
+#include <QWheelEvent>
 
 #include <array>
 
@@ -72,6 +75,11 @@ void RightPanel::resizeEvent(QResizeEvent*)
     m_background->setGeometry(rect());
 }
 
+void RightPanel::wheelEvent(QWheelEvent* event)
+{
+    QCoreApplication::sendEvent(m_cards->verticalScrollBar(), event);
+}
+
 QRegion RightPanel::covered() const
 {
     QRegion region;
@@ -102,7 +110,8 @@ QWidget* RightPanel::makeContent()
         m_covering << card;
     }
     column->addStretch();
-    stack->addWidget(new CardScrollArea(cards), 1);
+    m_cards = new CardScrollArea(cards);
+    stack->addWidget(m_cards, 1);
     return view;
 }
 

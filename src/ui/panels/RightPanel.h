@@ -3,6 +3,8 @@
 #include "model/MainViewModel.h"
 #include "ui/background/NeuralNetworkBackground.h"
 
+#include <QScrollArea>
+
 namespace ardeo
 {
 
@@ -17,6 +19,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     QWidget* makeContent();
@@ -26,6 +29,7 @@ private:
     MainViewModel& vm;
     Observed<bool> showDisableConfirm{false};
     NeuralNetworkBackground* m_background;
+    QScrollArea* m_cards = nullptr;
     /// What hides the background, for its sake.
     QList<QWidget*> m_covering;
 };
