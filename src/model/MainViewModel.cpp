@@ -73,12 +73,19 @@ bool MainViewModel::hasChanges() const
            alternateDNS.value() != live.alternateDNS;
 }
 
+void MainViewModel::takeListed(const QList<AdapterInfo>& listed)
+{
+    const std::optional<QString> reason = m_platform.trouble();
+    trouble = reason ? std::optional(Text(*reason)) : std::nullopt;
+    adapters = listed;
+}
+
 QCoro::Task<> MainViewModel::loadAdapters()
 {
     const auto self = shared_from_this();
     isLoading = true;
     const QList<AdapterInfo> listed = co_await configService.listAdapters();
-    adapters = listed;
+    takeListed(listed);
     if (!selectedAdapter.value() && !listed.isEmpty()) {
         const auto active = std::ranges::find(listed, true, &AdapterInfo::isActive);
         selectedAdapter = active != listed.end() ? *active : listed.first();
@@ -93,7 +100,7 @@ QCoro::Task<> MainViewModel::refreshAdapters()
     const auto self = shared_from_this();
     isLoading = true;
     const QList<AdapterInfo> listed = co_await configService.listAdapters();
-    adapters = listed;
+    takeListed(listed);
     if (const std::optional<AdapterInfo> selected = selectedAdapter.value()) {
         const auto fresh = std::ranges::find(listed, selected->serviceName, &AdapterInfo::serviceName);
         if (fresh != listed.end()) {

@@ -31,6 +31,9 @@ public:
     MainViewModel(Key, Platform& platform);
 
     Observed<QList<AdapterInfo>> adapters;
+    /// Why the system could not be reached when the services were last listed, as a sentence; none when it
+    /// answered.
+    Observed<std::optional<Text>> trouble;
     Observed<std::optional<AdapterInfo>> selectedAdapter;
     /// What was last read of the selected service. Tells its observers of every assignment.
     Observed<NetworkAdapterInfo> currentConfig;
@@ -110,6 +113,7 @@ private:
     template <typename Settings>
     void fillForm(const Settings& settings, const Text& domains);
     QCoro::Task<> write(NetworkAdapterInfo configuration, std::optional<Settings> named);
+    void takeListed(const QList<AdapterInfo>& listed);
     void clearFeedback();
     void tellError(const QString& sentence, const std::optional<SettingFault>& fault = {});
     QCoro::Task<bool> carryOut(Change change, std::chrono::milliseconds settlingTime);

@@ -28,7 +28,7 @@ namespace
 constexpr double backgroundMaxDist = 220;
 constexpr double backgroundSpeed = 0.25;
 
-QWidget* makeEmptyState()
+QWidget* makeEmptyState(MainViewModel& vm)
 {
     auto* view = new QWidget;
     auto* stack = columnIn(view, 8);
@@ -42,6 +42,16 @@ QWidget* makeEmptyState()
     stack->addWidget(new TextLabel(inSystemWords("No network services found on {thisComputer}."),
                                    look::font(TextStyle::subheadline), Emphasis::secondary),
                      0, Qt::AlignHCenter);
+    auto* trouble = new TextLabel(QString(), look::font(TextStyle::subheadline), Emphasis::secondary);
+    trouble->setAlignment(Qt::AlignCenter);
+    trouble->setWordWrap(true);
+    stack->addWidget(trouble);
+    bind(
+        trouble, [&vm] { return vm.trouble.value(); },
+        [trouble](const std::optional<Text>& reason) {
+            trouble->setText(reason.value_or(Text()));
+            trouble->setVisible(reason.has_value());
+        });
     stack->addStretch();
     return view;
 }
@@ -61,7 +71,7 @@ RightPanel::RightPanel(MainViewModel& model, Clock& clock, QWidget* parent)
     setMinimumWidth(460);
     auto* layers = new QStackedLayout(this);
     layers->addWidget(makeContent());
-    layers->addWidget(makeEmptyState());
+    layers->addWidget(makeEmptyState(vm));
     bind(
         this, [this] { return vm.adapters.value().isEmpty() && !vm.isLoading.value(); },
         [layers](bool empty) { layers->setCurrentIndex(empty ? 1 : 0); });
