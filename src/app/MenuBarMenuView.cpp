@@ -3,11 +3,13 @@
 #include "app/MainMenu.h"
 #include "app/SystemTools.h"
 #include "ui/elements/Binding.h"
-#include "ui/elements/TextLabel.h"
 #include "ui/windows/ContentView.h"
 
 #include <QApplication>
 #include <QCoroFuture>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyleOptionMenuItem>
 #include <QWidgetAction>
 
 namespace ardeo
@@ -21,21 +23,75 @@ using namespace std::chrono_literals;
 /// The main window needs a moment to come up before another one may come before it.
 constexpr auto shortcutsDelay = 150ms;
 
+/// The text as the menu protocol shows it unchanged. The toolkit makes the first & of it the protocol's sign
+/// for an access key, an underscore; further ones stay what they are, and the protocol takes a double
+/// underscore for one.
+QString verbatim(const QString& text)
+{
+    QString escaped = text;
+    escaped.replace(u'_', QStringLiteral("__"));
+    return escaped.contains(u'&') ? u'&' + escaped : escaped;
+}
+
+/// A line of a menu that cannot be chosen. The style draws it as it draws the entries, so that they align.
+class MenuText final : public QWidget
+{
+public:
+    MenuText(const QFont& font, Emphasis emphasis) : m_emphasis(emphasis) { setFont(font); }
+    void setText(const QString& text)
+    {
+        m_text = text;
+        setAccessibleName(text);
+        updateGeometry();
+        update();
+    }
+    QSize sizeHint() const override
+    {
+        const QStyleOptionMenuItem option = styleOption();
+        const QSize content(fontMetrics().horizontalAdvance(m_text), option.fontMetrics.height());
+        return style()->sizeFromContents(QStyle::CT_MenuItem, &option, content, this);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const QStyleOptionMenuItem option = styleOption();
+        QPainter painter(this);
+        style()->drawControl(QStyle::CE_MenuItem, &option, &painter, this);
+    }
+
+private:
+    QStyleOptionMenuItem styleOption() const
+    {
+        QStyleOptionMenuItem option;
+        option.initFrom(this);
+        option.state = QStyle::State_Enabled;
+        option.text = QString(m_text).replace(u'&', QStringLiteral("&&"));
+        option.font = font();
+        // As high as the entries: where the style begins a text depends on that.
+        option.fontMetrics = QFontMetrics(QApplication::font("QMenu"));
+        for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+            option.palette.setColor(role, look::colours(this).of(m_emphasis));
+        return option;
+    }
+
+    QString m_text;
+    Emphasis m_emphasis;
+};
+
 } // namespace
 
 template <typename Read>
 void MenuBarMenuView::addText(const QFont& font, Emphasis emphasis, Read read)
 {
-    // The desktop draws the menu from the entries' texts; where we draw it, the label stands in for the
+    // The desktop draws the menu from the entries' texts; where we draw it, the line stands in for the
     // entry.
     auto* entry = new QWidgetAction(this);
-    auto* label = new TextLabel(QString(), font, emphasis);
-    label->setMargin(4);
-    label->setIndent(23); // where the other entries begin
+    auto* label = new MenuText(font, emphasis);
     entry->setDefaultWidget(label);
     addAction(entry);
     bind(entry, read, [entry, label](const QString& text) {
-        entry->setText(text);
+        entry->setText(verbatim(text));
         entry->setVisible(!text.isEmpty());
         label->setText(text);
     });
@@ -74,6 +130,14 @@ MenuBarMenuView::MenuBarMenuView(MainViewModel& model, AppDelegate& appDelegate,
         [loginItem](const QString& title) { loginItem->setText(title); });
     addSeparator();
     addAction(QStringLiteral("Quit"), this, &quit);
+}
+
+void MenuBarMenuView::keyPressEvent(QKeyEvent* event)
+{
+    // Up and down pass by the lines that only say something.
+    do
+        QMenu::keyPressEvent(event);
+    while (qobject_cast<QWidgetAction*>(activeAction()));
 }
 
 QCoro::Task<> MenuBarMenuView::openShortcuts()

@@ -551,6 +551,12 @@ private Q_SLOTS:
         const auto entries = menu.actions();
         QAction* open = *std::ranges::find_if(entries, &QAction::isVisible);
         QCOMPARE(open->text(), u"Open Ardeo IP Config"_s);
+        w.model->selectedAdapter = AdapterInfo{.serviceName = u"R&D_1 & more"_s};
+        QCOMPARE(entries.first()->text(), u"&R&D__1 & more"_s); // which the desktop shows without the first &
+        menu.popup({});
+        QTest::keyClick(&menu, Qt::Key_Down);
+        QCOMPARE(menu.activeAction(), open);
+        menu.close();
         const auto closeNotices = [] {
             int closed = 0;
             for (QWidget* window : QApplication::topLevelWidgets())
