@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QBackingStore>
+#include <QDialog>
 #include <QWindow>
 
 #include <malloc.h>
@@ -13,12 +14,27 @@
 namespace ardeo
 {
 
+namespace
+{
+
+/// The window that gets the keys: the window itself, or the sheet before it.
+QWindow& keyWindow(const QWidget& window)
+{
+    for (const QDialog* sheet : window.findChildren<QDialog*>()) {
+        if (sheet->isVisible() && sheet->isModal())
+            return *sheet->windowHandle();
+    }
+    return *window.windowHandle();
+}
+
+} // namespace
+
 void bringToFront(QWidget& window)
 {
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();
-    activateIgnoringOtherApps(*window.windowHandle());
+    activateIgnoringOtherApps(keyWindow(window));
 }
 
 void quit()

@@ -4,12 +4,12 @@
 #include "app/Notice.h"
 #include "app/WindowHider.h"
 #include "ui/elements/SystemWords.h"
+#include "ui/sheets/NoticePanel.h"
 #include "ui/windows/ContentView.h"
 #include "ui/windows/HelpView.h"
 #include "ui/windows/ShortcutsView.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QShortcut>
 
 namespace ardeo
@@ -22,7 +22,6 @@ constexpr QSize defaultSize(900, 680);
 constexpr QSize helpSize(620, 640);
 constexpr QSize shortcutsSize(520, 540);
 constexpr int smallestHeight = 200;
-constexpr int aboutIconSize = 64;
 
 /// Fills the window with the content, and has Ctrl+W ask it to close.
 void fillWindow(QMainWindow& window, QWidget* content)
@@ -92,16 +91,10 @@ void Ardeo_IPConfigApp::openWindow(const QString& id)
 void Ardeo_IPConfigApp::showAboutPanel()
 {
     if (!m_aboutPanel) {
-        auto* panel = new QMessageBox(&m_mainWindow);
-        panel->setAttribute(Qt::WA_DeleteOnClose);
-        panel->setModal(false);
-        panel->setWindowTitle(QStringLiteral("About Ardeo IP Config"));
-        panel->setIconPixmap(QApplication::windowIcon().pixmap(QSize(aboutIconSize, aboutIconSize),
-                                                               m_mainWindow.devicePixelRatioF()));
-        panel->setText(QStringLiteral("Ardeo IP Config"));
-        panel->setInformativeText(QStringLiteral("Version %1\nWorks on: %2")
-                                      .arg(QApplication::applicationVersion(), m_platform.description));
-        m_aboutPanel = panel;
+        m_aboutPanel = new NoticePanel(QStringLiteral("About Ardeo IP Config"),
+                                       QStringLiteral("Version %1\nWorks on: %2")
+                                           .arg(QApplication::applicationVersion(), m_platform.description),
+                                       &m_mainWindow);
     }
     bringToFront(*m_aboutPanel);
 }

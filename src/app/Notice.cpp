@@ -1,17 +1,13 @@
 #include "app/Notice.h"
 
-#include <QMessageBox>
+#include "ui/sheets/NoticePanel.h"
 
 namespace ardeo
 {
 
 void showNotice(const QString& sentence)
 {
-    auto* notice = new QMessageBox(QMessageBox::Information, QStringLiteral("Ardeo IP Config"), sentence,
-                                   QMessageBox::Ok);
-    notice->setAttribute(Qt::WA_DeleteOnClose);
-    notice->setModal(false);
-    notice->show();
+    (new NoticePanel(QStringLiteral("Ardeo IP Config"), sentence))->show();
 }
 
 } // namespace ardeo

@@ -11,6 +11,7 @@
 #include "ui/elements/IPAddressField.h"
 #include "ui/panels/AdapterSection.h"
 #include "ui/panels/PresetList.h"
+#include "ui/sheets/NoticePanel.h"
 #include "ui/sheets/ProfileNameSheet.h"
 #include "ui/windows/ContentView.h"
 #include "ui/windows/HelpView.h"
@@ -22,7 +23,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -560,7 +560,7 @@ private Q_SLOTS:
         const auto closeNotices = [] {
             int closed = 0;
             for (QWidget* window : QApplication::topLevelWidgets())
-                closed += qobject_cast<QMessageBox*>(window) && window->isVisible() && window->close();
+                closed += qobject_cast<NoticePanel*>(window) && window->isVisible() && window->close();
             return closed;
         };
         for (const int expected : {1, 0}) { // says why, the first time

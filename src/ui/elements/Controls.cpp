@@ -3,6 +3,7 @@
 #include "ui/elements/Symbol.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -15,6 +16,7 @@ namespace
 {
 
 constexpr int indicator = 16;
+constexpr int iconSize = 64;
 
 } // namespace
 
@@ -182,6 +184,19 @@ void SymbolView::paintEvent(QPaintEvent*)
     const int side = std::min(width(), height());
     drawSymbol(painter, QRectF((width() - side) / 2.0, (height() - side) / 2.0, side, side), m_symbol,
                m_colour(look::colours(this)));
+}
+
+ApplicationIcon::ApplicationIcon(QWidget* parent) : QWidget(parent)
+{
+    setFixedSize(iconSize, iconSize);
+}
+
+void ApplicationIcon::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipPath(look::continuousRect(rect(), 14));
+    QApplication::windowIcon().paint(&painter, rect());
 }
 
 } // namespace ardeo

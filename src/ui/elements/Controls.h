@@ -85,4 +85,16 @@ private:
     std::function<QColor(const Colours&)> m_colour;
 };
 
+/// The program's own icon.
+class ApplicationIcon final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ApplicationIcon(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
 } // namespace ardeo

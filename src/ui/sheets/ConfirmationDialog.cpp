@@ -17,11 +17,9 @@ constexpr int padding = 24;
 
 ConfirmationDialog::ConfirmationDialog(const QString& title, const QString& message,
                                        const QString& destructive, QWidget* parent)
-    : QDialog(parent, Qt::Sheet)
+    : Sheet(title, parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowModality(Qt::WindowModal);
-    setWindowTitle(title);
     auto* stack = columnIn(this, 8, {padding, padding, padding, padding});
     const auto add = [stack](const QString& text, TextStyle style, Emphasis emphasis) {
         auto* label = new TextLabel(text, look::font(style), emphasis);

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/sheets/Sheet.h"
 
 namespace ardeo
 {
 
 /// Asks before something is done that cannot be undone. Accepted means: do it. It deletes itself when it
 /// closes.
-class ConfirmationDialog final : public QDialog
+class ConfirmationDialog final : public Sheet
 {
     Q_OBJECT
 

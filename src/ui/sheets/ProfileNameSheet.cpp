@@ -27,11 +27,9 @@ bool isBlank(const QString& name)
 ProfileNameSheet::ProfileNameSheet(Observed<Text>& name, const QString& title, const QString& confirm,
                                    std::function<void()> onConfirm, std::function<void()> onCancel,
                                    QWidget* parent)
-    : QDialog(parent, Qt::Sheet)
+    : Sheet(title, parent)
     , m_onCancel(std::move(onCancel))
 {
-    setWindowModality(Qt::WindowModal);
-    setWindowTitle(title);
     auto* stack = columnIn(this, 20, {24, 24, 24, 24});
     stack->addWidget(new TextLabel(title, look::font(TextStyle::headline), Emphasis::primary), 0,
                      Qt::AlignHCenter);

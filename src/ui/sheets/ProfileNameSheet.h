@@ -2,8 +2,7 @@
 
 #include "backend/Text.h"
 #include "model/Observed.h"
-
-#include <QDialog>
+#include "ui/sheets/Sheet.h"
 
 #include <functional>
 
@@ -12,7 +11,7 @@ namespace ardeo
 
 /// What the two sheets that ask for a profile's name have in common. A sheet edits the text it is bound to
 /// and reports the choice; it does not close itself.
-class ProfileNameSheet : public QDialog
+class ProfileNameSheet : public Sheet
 {
     Q_OBJECT
 

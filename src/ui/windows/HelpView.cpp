@@ -6,9 +6,6 @@
 #include "ui/elements/SystemWords.h"
 #include "ui/elements/TextLabel.h"
 
-#include <QApplication>
-#include <QPainter>
-
 #include <array>
 
 namespace ardeo
@@ -19,7 +16,6 @@ namespace
 
 constexpr int pageWidth = 620;
 constexpr int padding = 28;
-constexpr int iconSize = 64;
 constexpr double radius = 14;
 constexpr int lineSpacing = 4;
 
@@ -81,22 +77,6 @@ QColor teal(const Colours& colours)
 {
     return colours.teal;
 }
-
-/// The application's own icon.
-class ApplicationIcon final : public QWidget
-{
-public:
-    ApplicationIcon() { setFixedSize(iconSize, iconSize); }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setClipPath(look::continuousRect(rect(), radius));
-        QApplication::windowIcon().paint(&painter, rect());
-    }
-};
 
 void addHeader(QVBoxLayout* stack)
 {
