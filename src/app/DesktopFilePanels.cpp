@@ -47,6 +47,11 @@ QString activeWindow()
     return isX11 && window ? QStringLiteral("x11:%1").arg(window->winId(), 0, 16) : QString();
 }
 
+QString documents()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
 std::optional<QString> asPlace(const QString& path)
 {
     return path.isEmpty() ? std::nullopt : std::optional(path);
@@ -56,7 +61,7 @@ std::optional<QString> asPlace(const QString& path)
 
 std::optional<QString> DesktopFilePanels::askWhereToSave(const QString& proposedName, const QString& message)
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString folder = documents();
     PortalPanel panel;
     panel.portal.askWhereToSave(activeWindow(), message, folder, proposedName);
     if (panel.run())
@@ -71,7 +76,7 @@ std::optional<QString> DesktopFilePanels::askWhatToOpen(const QString& message)
     panel.portal.askWhatToOpen(activeWindow(), message);
     if (panel.run())
         return panel.chosen();
-    return asPlace(QFileDialog::getOpenFileName(QApplication::activeWindow(), message));
+    return asPlace(QFileDialog::getOpenFileName(QApplication::activeWindow(), message, documents()));
 }
 
 } // namespace ardeo

@@ -20,6 +20,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -28,6 +29,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <fcntl.h>
@@ -433,6 +435,28 @@ private Q_SLOTS:
         QCOMPARE(w.model->presetStore.presets().size(), 2);
     }
 
+    void cutNamesHaveAToolTip()
+    {
+        Window w;
+        w.addProfiles();
+        const QString name = u"A name that is far too long for the panel that it stands in"_s;
+        const AdapterInfo adapter{.serviceName = name, .hardwareName = name + name, .isActive = true};
+        w.model->adapters = {adapter};
+        w.model->selectedAdapter = adapter;
+        w.model->presetStore.upsert({.name = name});
+        w.settle();
+        const auto toolTipAt = [](QWidget* widget, const QPoint& place) {
+            QHelpEvent event(QEvent::ToolTip, place, widget->mapToGlobal(place));
+            QApplication::sendEvent(widget, &event);
+            return QToolTip::text();
+        };
+        QVERIFY(toolTipAt(w.list()->viewport(), w.row(0)).isEmpty()); // that one fits
+        QCOMPARE(toolTipAt(w.find<PopUpButton>("Select Adapter"), {20, 10}), name);
+        QCOMPARE(toolTipAt(w.find<QLabel>(qUtf8Printable(name + name)), {20, 5}), name + name);
+        QCOMPARE(toolTipAt(w.list()->viewport(), w.row(2)), QString(name + u"\nDHCP · "_s));
+        QVERIFY(w.find<QLineEdit>("Search profiles")->font().italic());
+    }
+
     void longListsAreFilteredAtOnce()
     {
         Window w;
@@ -451,6 +475,7 @@ private Q_SLOTS:
         w.window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
         search->setFocus();
+        QVERIFY(w.find<QAbstractButton>("Clear search")->rect().contains(QRect(0, 0, 24, 24)));
         QTest::keyClick(search, Qt::Key_Escape);
         QCOMPARE(w.list()->count(), 10'000);
         QTest::keyClick(search, Qt::Key_Escape);

@@ -108,9 +108,33 @@ void PopUpButton::paintEvent(QPaintEvent*)
                QStringLiteral("chevron.up.chevron.down"), colours.secondary);
     painter.setPen(colours.primary);
     painter.setFont(font());
-    const QRect label = rect().adjusted(10, 0, -26, 0);
+    const QRect label = labelRect();
     painter.drawText(label, Qt::AlignVCenter | Qt::AlignLeft,
                      fontMetrics().elidedText(currentText(), Qt::ElideMiddle, label.width()));
+}
+
+QRect PopUpButton::labelRect() const
+{
+    return rect().adjusted(10, 0, -26, 0);
+}
+
+bool PopUpButton::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip)
+        setToolTip(fontMetrics().horizontalAdvance(currentText()) > labelRect().width() ? currentText()
+                                                                                        : QString());
+    return QComboBox::event(event);
+}
+
+void slantPlaceholder(QLineEdit& line)
+{
+    const auto follow = [&line] {
+        QFont font = line.font();
+        font.setItalic(line.text().isEmpty());
+        line.setFont(font);
+    };
+    QObject::connect(&line, &QLineEdit::textChanged, &line, follow);
+    follow();
 }
 
 TextField::TextField(QWidget* parent) : QLineEdit(parent)
@@ -119,6 +143,7 @@ TextField::TextField(QWidget* parent) : QLineEdit(parent)
     setFrame(false);
     setFixedHeight(28);
     setTextMargins(6, 0, 6, 0);
+    slantPlaceholder(*this);
     QPalette own;
     own.setColor(QPalette::Base, Qt::transparent);
     setPalette(own);

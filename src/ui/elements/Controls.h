@@ -23,7 +23,7 @@ protected:
     bool hitButton(const QPoint& position) const override;
 };
 
-/// A choice that shows what is chosen and pops the rest up.
+/// A choice that shows what is chosen and pops the rest up. A tool tip tells all of what does not fit.
 class PopUpButton final : public QComboBox
 {
     Q_OBJECT
@@ -34,9 +34,16 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+
+private:
+    QRect labelRect() const;
 };
+
+/// Has the line slant its placeholder, so that it does not look like something typed.
+void slantPlaceholder(QLineEdit& line);
 
 /// A line of text to be edited, in a rounded border.
 class TextField final : public QLineEdit

@@ -1,5 +1,6 @@
 #include "ui/elements/IPAddressField.h"
 
+#include "ui/elements/Controls.h"
 #include "ui/elements/Stack.h"
 #include "ui/elements/TextLabel.h"
 
@@ -57,6 +58,7 @@ IPAddressField::IPAddressField(Observed<Text>& value, const QString& placeholder
         octet->setFixedSize(octetWidth, look::lineHeight(font));
         octet->setAlignment(Qt::AlignCenter);
         octet->setPlaceholderText(partPlaceholder(i));
+        slantPlaceholder(*octet);
         octet->setAccessibleName(QStringLiteral("%1, part %2 of 4").arg(name).arg(i + 1));
         octet->setInputMethodHints(Qt::ImhDigitsOnly);
         octet->setAttribute(Qt::WA_MacShowFocusRect, false);

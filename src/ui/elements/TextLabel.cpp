@@ -1,8 +1,9 @@
 #include "ui/elements/TextLabel.h"
 
-#include <QEvent>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QTextLayout>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -37,6 +38,17 @@ void TextLabel::takeColour()
     own.setColor(QPalette::WindowText, colour);
     own.setColor(QPalette::Text, colour);
     setPalette(own);
+}
+
+bool TextLabel::event(QEvent* event)
+{
+    // What the lines lack is made up for by the ellipsis.
+    const bool isCut = m_elidedLines > 0 && event->type() == QEvent::ToolTip &&
+                       elidedLines(width()).join(QString()) != text();
+    if (!isCut)
+        return QLabel::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    return true;
 }
 
 void TextLabel::changeEvent(QEvent* event)

@@ -21,7 +21,8 @@ public:
 
     void setEmphasis(Emphasis emphasis);
     void setColour(Colour colour);
-    /// With this, a text that does not fit its width ends in an ellipsis, on that line.
+    /// With this, a text that does not fit its width ends in an ellipsis, on that line; a tool tip tells all
+    /// of it.
     void setElided(int lines);
 
     QSize minimumSizeHint() const override;
@@ -30,6 +31,7 @@ public:
     bool hasHeightForWidth() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

@@ -35,8 +35,10 @@ QWidget* makePicker(MainViewModel& vm)
         [picker](const Choice& choice) {
             const QSignalBlocker silent(picker);
             picker->clear();
-            for (const AdapterInfo& adapter : choice.adapters)
+            for (const AdapterInfo& adapter : choice.adapters) {
                 picker->addItem(pickerLabel(adapter));
+                picker->setItemData(picker->count() - 1, pickerLabel(adapter), Qt::ToolTipRole);
+            }
             const auto selected = choice.selected
                                       ? std::ranges::find(choice.adapters, choice.selected->serviceName,
                                                           &AdapterInfo::serviceName)

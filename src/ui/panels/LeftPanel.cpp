@@ -27,6 +27,9 @@ namespace ardeo
 namespace
 {
 
+/// The symbol is smaller, but as large as this a place can be hit.
+constexpr int eraseSize = 24;
+
 QColor tertiary(const Colours& colours)
 {
     return colours.tertiary;
@@ -101,13 +104,16 @@ QWidget* LeftPanel::makeSearchRow()
     auto* frame = new QWidget;
     auto* row = new SearchRow;
     columnIn(frame, 0, {8, 0, 8, 4})->addWidget(row);
-    auto* layout = rowIn(row, 6, {8, 6, 8, 6});
+    auto* layout = rowIn(row, 2, {8, 0, 4, 0});
     layout->addWidget(new SymbolView(QStringLiteral("magnifyingglass"), 14, tertiary));
+    layout->addSpacing(4);
 
     auto* field = new QLineEdit;
     field->setFrame(false);
     field->setFont(look::font(TextStyle::callout));
     field->setFixedHeight(field->fontMetrics().height());
+    slantPlaceholder(*field);
+    row->setFixedHeight(6 + field->height() + 6);
     field->setPlaceholderText(QStringLiteral("Search profiles"));
     field->setAccessibleName(QStringLiteral("Search profiles"));
     QPalette clear;
@@ -134,6 +140,7 @@ QWidget* LeftPanel::makeSearchRow()
 
     auto* erase = new PushButton(QString(), QStringLiteral("xmark.circle.fill"), PushButton::Kind::plain);
     erase->setTint(&Colours::tertiary);
+    erase->setFixedSize(eraseSize, eraseSize);
     erase->setToolTip(QStringLiteral("Clear search"));
     erase->setAccessibleName(QStringLiteral("Clear search"));
     connect(erase, &QPushButton::clicked, this, [this, field] {

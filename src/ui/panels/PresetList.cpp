@@ -3,12 +3,14 @@
 #include "ui/elements/Style.h"
 #include "ui/elements/Symbol.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <QVariantAnimation>
 
 #include <algorithm>
@@ -140,8 +142,8 @@ public:
         QRect content = row.adjusted(rowPadding, rowPadding, -rowPadding, -rowPadding);
         if (highlight > 0) {
             const QString load = QStringLiteral("Load");
-            painter->setFont(look::font(TextStyle::caption, QFont::Medium));
-            const int width = painter->fontMetrics().horizontalAdvance(load);
+            painter->setFont(loadFont());
+            const int width = loadWidth();
             painter->setPen(look::withOpacity(colours.teal, highlight));
             painter->drawText(content.translated(static_cast<int>((1 - highlight) * width), 0),
                               Qt::AlignRight | Qt::AlignVCenter, load);
@@ -157,7 +159,26 @@ public:
         painter->restore();
     }
 
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override
+    {
+        if (event->type() != QEvent::ToolTip || !index.isValid())
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        const NetworkPreset& preset = m_preset(index.row());
+        const QString summary = presetSummary(preset);
+        // The row below the pointer also says "Load".
+        const int room = option.rect.width() - 2 * rowPadding - loadWidth() - 4;
+        const bool isCut =
+            QFontMetrics(nameFont()).horizontalAdvance(preset.name.string().simplified()) > room ||
+            QFontMetrics(summaryFont()).horizontalAdvance(summary.simplified()) > room;
+        QToolTip::showText(event->globalPos(),
+                           isCut ? preset.name + QStringLiteral("\n") + summary : QString(), view);
+        return true;
+    }
+
 private:
+    static int loadWidth() { return QFontMetrics(loadFont()).horizontalAdvance(QStringLiteral("Load")); }
+    static QFont loadFont() { return look::font(TextStyle::caption, QFont::Medium); }
     static QFont nameFont() { return look::font(TextStyle::body, QFont::Medium); }
     static QFont summaryFont() { return look::font(TextStyle::caption); }
     static void drawLine(QPainter& painter, const QRect& rect, const QFont& font, const QColor& colour,
