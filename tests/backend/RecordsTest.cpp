@@ -13,7 +13,7 @@ namespace
 constexpr auto complete =
     R"({"id":"0f0e0d0c-0b0a-4908-8706-050403020100","name":"Office","serviceName":"Wi-Fi",)"
     R"("ipv4Mode":"Manual","ipAddress":"10.0.0.2","subnetMask":"255.0.0.0","router":"",)"
-    R"("dnsMode":"Automatic","primaryDNS":"","alternateDNS":"","searchDomains":"a/b"})";
+    R"("dnsMode":"Automatic","primaryDNS":"1.1.1.1","alternateDNS":"9.9.9.9","searchDomains":"a/b"})";
 
 QByteArray replaced(const char* before, const char* after)
 {
@@ -66,9 +66,17 @@ private Q_SLOTS:
         QVERIFY(!encodePresets({{.name = QString(QChar(0xD800))}}));
 
         const auto decoded = decodePresets('[' + QByteArray(complete) + ']');
-        QVERIFY(decoded);
-        QVERIFY(encodePresets(*decoded)->startsWith(
-            R"([{"id":"0F0E0D0C-0B0A-4908-8706-050403020100","name":"Office",)"));
+        QCOMPARE(decoded, (QList{NetworkPreset{.id = QUuid(u"0f0e0d0c-0b0a-4908-8706-050403020100"_s),
+                                               .name = u"Office"_s,
+                                               .serviceName = u"Wi-Fi"_s,
+                                               .ipv4Mode = IPv4Mode::manual,
+                                               .ipAddress = u"10.0.0.2"_s,
+                                               .subnetMask = u"255.0.0.0"_s,
+                                               .primaryDNS = u"1.1.1.1"_s,
+                                               .alternateDNS = u"9.9.9.9"_s,
+                                               .searchDomains = u"a/b"_s}}));
+        const QByteArray upper = QByteArray(complete).replace("0f0e0d0c-0b0a", "0F0E0D0C-0B0A");
+        QCOMPARE(*encodePresets(*decoded), '[' + upper.replace("a/b", R"(a\/b)") + ']');
     }
 
     void presetDecodingIsStrict()

@@ -13,6 +13,9 @@ namespace ardeo
 class FakeClock final : public Clock
 {
 public:
+    /// Milliseconds of every sleep so far.
+    QList<qint64> asked;
+
     std::chrono::nanoseconds continuousTime() const override { return m_now; }
     double referenceTime() const override { return 800e6 + std::chrono::duration<double>(m_now).count(); }
     QFuture<void> sleep(std::chrono::milliseconds duration) override
@@ -20,6 +23,7 @@ public:
         auto promise = std::make_shared<QPromise<void>>();
         promise->start();
         m_sleepers.append({m_now + duration, promise});
+        asked.append(duration.count());
         return promise->future();
     }
     qsizetype sleepers() const { return m_sleepers.size(); }

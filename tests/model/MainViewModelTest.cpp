@@ -103,23 +103,34 @@ private Q_SLOTS:
         model.populateForm({.searchDomains = {u"corp.example"_s, u"lab.example"_s}});
         QCOMPARE(model.searchDomains.value(), Text(u"corp.example lab.example"_s));
         QVERIFY(model.hasChanges());
-        model.revertForm();
-        model.searchDomains = u"x"_s;
-        QVERIFY(!model.hasChanges());
+        for (Observed<Text>* field : {&model.ipAddress, &model.subnetMask, &model.router, &model.primaryDNS,
+                                      &model.alternateDNS, &model.searchDomains}) {
+            model.revertForm();
+            QVERIFY(!model.hasChanges());
+            *field = u"x"_s;
+            QCOMPARE(model.hasChanges(), field != &model.searchDomains);
+        }
 
-        const NetworkPreset preset{
-            .serviceName = u"Ethernet"_s, .dnsMode = DNSMode::manual, .searchDomains = u" a  b "_s};
+        NetworkPreset preset{.serviceName = u"Ethernet"_s,
+                             .ipv4Mode = IPv4Mode::manual,
+                             .ipAddress = u"1.1.1.1"_s,
+                             .subnetMask = u"2.2.2.2"_s,
+                             .router = u"3.3.3.3"_s,
+                             .dnsMode = DNSMode::manual,
+                             .primaryDNS = u"4.4.4.4"_s,
+                             .alternateDNS = u"5.5.5.5"_s,
+                             .searchDomains = u" a  b "_s};
         model.applyError = Text(u"stays"_s);
         model.loadPreset(preset);
-        QCOMPARE(model.searchDomains.value(), preset.searchDomains);
-        QCOMPARE(fixture.selected(), u"Wi-Fi"_s);
-        QVERIFY(model.applyError.value() && model.hasChanges());
+        QVERIFY(model.applyError.value());
         QCOMPARE(model.currentConfig.value().dnsMode, DNSMode::automatic);
         model.savePreset(u"Office"_s);
-        NetworkPreset saved = model.presetStore.presets().last();
+        const NetworkPreset saved = model.presetStore.presets().last();
         QCOMPARE(saved.id.version(), QUuid::Random);
-        QCOMPARE(saved.serviceName, Text(u"Wi-Fi"_s));
-        QCOMPARE(saved.searchDomains, preset.searchDomains);
+        preset.id = saved.id;
+        preset.name = u"Office"_s;
+        preset.serviceName = u"Wi-Fi"_s;
+        QCOMPARE(saved, preset);
         model.revertForm();
         QVERIFY(!model.applyError.value() && !model.hasChanges());
     }
@@ -150,18 +161,20 @@ private Q_SLOTS:
         model.ipv4Mode = IPv4Mode::manual;
         model.ipAddress = u"10.0.0.9"_s;
         model.dnsMode = DNSMode::manual;
+        model.primaryDNS = u"8.8.8.8"_s;
+        model.alternateDNS = u"9.9.9.9"_s;
         model.searchDomains = u"  corp.example\t\tlab.example\u2003x\ny  "_s;
         model.applyError = Text(u"old"_s);
         fixture.start(&MainViewModel::applyConfiguration, std::nullopt);
         QVERIFY(model.isApplying.value() && !model.applyError.value());
         const QStringList domains{u"corp.example"_s, u"lab.example"_s, u"x\ny"_s};
-        QCOMPARE(fixture.written(u"DNS"_s), (Dictionary{{u"SearchDomains"_s, domains}}));
+        QCOMPARE(fixture.written(u"DNS"_s),
+                 (Dictionary{{u"ServerAddresses"_s, QStringList{u"8.8.8.8"_s, u"9.9.9.9"_s}},
+                             {u"SearchDomains"_s, domains}}));
         QCOMPARE(fixture.written(u"IPv4"_s)[u"Addresses"_s], QStringList(u"10.0.0.9"_s));
 
         model.router = u"typed meanwhile"_s;
-        fixture.clock->advance(999ms);
-        QCOMPARE(model.router.value(), Text(u"typed meanwhile"_s));
-        fixture.clock->advance(1ms);
+        fixture.clock->advance(1s);
         QTRY_VERIFY(!model.isApplying.value());
         QVERIFY(model.applySuccess.value());
         QVERIFY(model.router.value().isEmpty());
@@ -169,9 +182,10 @@ private Q_SLOTS:
         fixture.clock->advance(3s);
         QTRY_VERIFY(model.router.value().isEmpty());
         QVERIFY(model.applySuccess.value());
-        QCOMPARE(fixture.clock->sleepers(), 0);
+        QCOMPARE(fixture.clock->asked, (QList<qint64>{1000, 3000}));
+        model.applyError = Text(u"of another one"_s);
         QCoro::waitFor(model.selectAdapter(*model.selectedAdapter.value()));
-        QVERIFY(!model.applySuccess.value());
+        QVERIFY(!model.applySuccess.value() && !model.applyError.value());
     }
 
     void waitingForAnotherProgramIsToldAfterHalfASecond()
@@ -180,10 +194,9 @@ private Q_SLOTS:
         MainViewModel& model = *fixture.model;
         fixture.system->lockHolder = LockHolder{.processID = 4711};
         model.setAdapterEnabled(true);
-        QTRY_COMPARE(fixture.clock->sleepers(), 1);
-        fixture.clock->advance(499ms);
+        QTRY_COMPARE(fixture.clock->asked, QList<qint64>{500});
         QVERIFY(!model.waitsFor.value());
-        fixture.clock->advance(1ms);
+        fixture.clock->advance(500ms);
         QTRY_COMPARE(model.waitsFor.value(), fixture.system->lockHolder);
         fixture.system->lockReleased.release();
         QTRY_VERIFY(!model.waitsFor.value());
@@ -254,7 +267,7 @@ private Q_SLOTS:
         fixture.clock->advance(500ms);
         QTRY_VERIFY(!model.isApplying.value());
         QVERIFY(!model.selectedAdapter.value()->isEnabled && !model.applySuccess.value());
-        QCOMPARE(fixture.clock->sleepers(), 0);
+        QCOMPARE(fixture.clock->asked, QList<qint64>{500});
         model.setAdapterEnabled(true); // of the service that was selected then
         QCoro::waitFor(model.selectAdapter(model.adapters.value().last()));
         fixture.settle();
@@ -363,6 +376,10 @@ private Q_SLOTS:
         for (uint seed = first; seed < first + static_cast<uint>(rounds); ++seed) {
             QRandomGenerator random(seed);
             const auto once = [&](int of) { return random.bounded(of) == 0; };
+            const auto tell = qScopeGuard([seed] {
+                if (QTest::currentTestFailed())
+                    qWarning("again with ARDEO_ROUNDS=1 ARDEO_SEED=%u", seed);
+            });
             Fixture fixture(false);
             FakeSystemConfiguration& system = *fixture.system;
             if (once(3))
@@ -391,6 +408,9 @@ private Q_SLOTS:
                 QCoro::waitFor(model.refreshAdapters());
             } while (fixture.clock->sleepers() > 0 || model.isApplying.value() || model.isLoading.value());
             QVERIFY(fixture.authorization->live.size() <= 1);
+            QCOMPARE(model.adapters.value(), model.configService.listAdapters().result());
+            QVERIFY(model.adapters.value().contains(*model.selectedAdapter.value()) && !model.hasChanges());
+            QVERIFY(!model.applyError.value() || !system.refusals.isEmpty());
             QCOMPARE(system.calls.count(u"unlock"_s),
                      system.refusals.contains(u"lock"_s) ? 0 : system.calls.count(u"lock"_s));
         }

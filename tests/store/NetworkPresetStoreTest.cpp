@@ -56,6 +56,10 @@ private Q_SLOTS:
         check(6, 7);
         store.upsertAll({});
         check(6, 7);
+        store.upsertAll({preset("Other"), first, preset("Third"), first}); // one twice
+        check(7, 8);
+        QCOMPARE(store.presets().size(), 3);
+        store.setPresets({});
         QCOMPARE(defaults.values[key], QByteArray("[]"));
     }
 

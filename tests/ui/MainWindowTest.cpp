@@ -9,8 +9,10 @@
 #include "ui/elements/CardScrollArea.h"
 #include "ui/elements/Controls.h"
 #include "ui/elements/IPAddressField.h"
+#include "ui/elements/InfoRow.h"
 #include "ui/panels/AdapterSection.h"
 #include "ui/panels/PresetList.h"
+#include "ui/sheets/ConfirmationDialog.h"
 #include "ui/sheets/NoticePanel.h"
 #include "ui/sheets/ProfileNameSheet.h"
 #include "ui/windows/ContentView.h"
@@ -20,6 +22,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -193,7 +196,7 @@ private Q_SLOTS:
         };
         check(u"192"_s, 0, u"192..."_s, 1);
         check(u"1921681"_s, 0, u"192.168.1."_s, 2);
-        check(u"300"_s, 1, u".255.."_s, 2);
+        check(u"256"_s, 1, u".255.."_s, 2);
         check(u"25a5"_s, 2, u"..255."_s, 3);
         check(u"-1"_s, 0, u"1..."_s, 0);
         check(u"1234"_s, 3, u"...123"_s, 3);
@@ -210,7 +213,7 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         for (const auto& [given, normalised] : {std::pair(u"10.1"_s, u"10.1.."_s),
                                                 {u"1.2.3.4.5"_s, u"1.2.3.4"_s},
-                                                {u"300.1.1.1"_s, u"255.1.1.1"_s},
+                                                {u"256.1.1.1"_s, u"255.1.1.1"_s},
                                                 {u"192.168.1.20"_s, u"192.168.1.20"_s},
                                                 {u""_s, u"..."_s}}) {
             value = Text(given);
@@ -233,10 +236,20 @@ private Q_SLOTS:
         QVERIFY(!w.field("IP Address"));
         QCoreApplication::processEvents();
         QCOMPARE(w.model->subnetMask.value(), Text(u"10.1"_s)); // nobody was there to normalise it
-        w.model->loadPreset({.ipv4Mode = IPv4Mode::manual, .subnetMask = u"255.0.0.0"_s});
+        const NetworkPreset manual{.ipv4Mode = IPv4Mode::manual,
+                                   .ipAddress = u"1.1.1.1"_s,
+                                   .subnetMask = u"2.2.2.2"_s,
+                                   .router = u"3.3.3.3"_s,
+                                   .dnsMode = DNSMode::manual,
+                                   .primaryDNS = u"4.4.4.4"_s,
+                                   .alternateDNS = u"5.5.5.5"_s};
+        w.model->loadPreset(manual);
         QCoreApplication::processEvents();
-        QCOMPARE(w.model->subnetMask.value(), Text(u"255.0.0.0"_s));
-        QCOMPARE(w.field("Subnet Mask")->currentParts().front(), u"255"_s);
+        QString shown;
+        for (const char* name : {"IP Address", "Subnet Mask", "Gateway", "Preferred DNS", "Alternate DNS"})
+            shown += w.field(name)->currentParts().front();
+        QCOMPARE(shown, u"12345"_s);
+        QCOMPARE(w.model->subnetMask.value(), manual.subnetMask);
         QVERIFY(!qobject_cast<QLineEdit*>(w.window->focusWidget())); // a field that appears takes no focus
     }
 
@@ -256,6 +269,8 @@ private Q_SLOTS:
         };
         MainViewModel& m = *w.model;
         QCOMPARE(enabled(), u"Refresh,Apply,Renew DHCP,Disable Adapter,Save Profile…"_s);
+        const QImage apply = w.find<QAbstractButton>("Apply")->grab().toImage();
+        QCOMPARE(apply.pixelColor(6, apply.height() / 2), look::colours(ColorScheme::light).accent);
         m.isLoading = true;
         QCOMPARE(enabled(), u"Disable Adapter,Save Profile…"_s);
         QVERIFY(w.shows("Loading…"));
@@ -267,6 +282,22 @@ private Q_SLOTS:
         w.addProfiles();
         QCOMPARE(enabled(),
                  u"Refresh,Apply,Revert,Renew DHCP,Disable Adapter,Save Profile…,Export profiles to file"_s);
+        m.currentConfig = NetworkAdapterInfo{.ipv4Mode = IPv4Mode::manual,
+                                             .ipAddress = u"1"_s,
+                                             .subnetMask = u"2"_s,
+                                             .router = u"3"_s,
+                                             .primaryDNS = u"4"_s,
+                                             .alternateDNS = u"5"_s,
+                                             .dhcpServer = u"6"_s,
+                                             .computerName = u"7"_s};
+        QStringList rows;
+        for (const InfoRow* row : w.window->findChildren<InfoRow*>()) {
+            for (const QLabel* label : row->findChildren<QLabel*>())
+                rows << label->text();
+        }
+        QCOMPARE(rows.join(u' '),
+                 u"IP Address: 1 Subnet Mask: 2 Gateway: 3 Preferred DNS: 4 Alternate DNS: 5 "
+                 "DHCP Server: 6 Mode: Manual Computer Name: 7"_s);
         m.currentConfig = NetworkAdapterInfo{.ipv4Mode = IPv4Mode::manual};
         QVERIFY(!w.find<QAbstractButton>("Renew DHCP") && !w.shows("DHCP Server:") &&
                 !w.shows("Computer Name:"));
@@ -385,6 +416,7 @@ private Q_SLOTS:
         QCOMPARE(w.model->router.value(), Text(u"192.168.1.1"_s));
         QVERIFY(w.find<Badge>("866 Mbps") && w.find<Badge>("Full-duplex"));
         QCOMPARE(pickerLabel({.serviceName = u"X"_s, .isEnabled = false}), u"X (disabled)"_s);
+        QCOMPARE(speedText(999) + speedText(1000) + speedText(2500), u"999 Mbps1 Gbps2 Gbps"_s);
     }
 
     void profilesAreLoadedRenamedDeletedAndSaved()
@@ -399,6 +431,26 @@ private Q_SLOTS:
         QTest::keyClick(w.list(), Qt::Key_Up);
         QTest::keyClick(w.list(), Qt::Key_Return);
         QCOMPARE(w.model->searchDomains.value(), Text(u"home"_s));
+
+        const auto choose = [&](const QString& entry) {
+            QContextMenuEvent asked(QContextMenuEvent::Keyboard, {});
+            QApplication::sendEvent(w.list(), &asked);
+            const auto* menu = w.list()->findChild<QMenu*>();
+            const auto entries = menu->actions();
+            (*std::ranges::find(entries, entry, &QAction::text))->trigger();
+            delete menu;
+        };
+        w.model->searchDomains = Text();
+        choose(u"Load Profile"_s);
+        QCOMPARE(w.model->searchDomains.value(), Text(u"home"_s));
+        choose(u"Delete…"_s);
+        QTest::keyClick(w.window->findChild<ConfirmationDialog*>(), Qt::Key_Return); // deletes nothing
+        w.settle();
+        choose(u"Rename…"_s);
+        QTest::keyClicks(w.window->findChild<ProfileNameSheet*>()->findChild<QLineEdit*>(), u"x"_s);
+        w.click("Cancel");
+        w.settle();
+        QCOMPARE(w.model->presetStore.presets().first().name, Text(u"Home WiFi"_s));
 
         QTest::keyClick(w.list(), Qt::Key_F2);
         auto* sheet = w.window->findChild<ProfileNameSheet*>();
@@ -498,7 +550,8 @@ private Q_SLOTS:
         Window w;
         w.click("Disable Adapter");
         QVERIFY(w.shows("Disable Ethernet?") && w.shows("This will disconnect Ethernet from the network."));
-        w.click("Cancel");
+        QTest::keyClick(w.window->findChild<ConfirmationDialog*>(), Qt::Key_Return);
+        QVERIFY(!w.model->isApplying.value());
         w.settle();
         w.click("Disable Adapter");
         w.click("Disable");
