@@ -48,6 +48,23 @@ private Q_SLOTS:
         QCOMPARE(prompts(), 1);
         QCOMPARE(apply(), QString());
         QCOMPARE(prompts(), 2);
+        model->ipv4Mode = IPv4Mode::manual;
+        model->ipAddress = Text(u"1.2"_s);
+        const auto revoked = [] { return contentOf("LAB_REVOKED").count("tmpauthz"); };
+        const auto before = revoked();
+        QCOMPARE(apply(), u"Cannot save changes (SC 1002)."_s);
+        QTRY_COMPARE(revoked(), before + 1);
+        model->revertForm();
+        QCOMPARE(apply(), QString());
+        QCOMPARE(prompts(), 2);
+
+        lapse(); // from now on polkit keeps none, and NetworkManager asks for one of its own
+        QCOMPARE(apply(), QString());
+        QCOMPARE(prompts(), 3);
+        QFile refused(qEnvironmentVariable("LAB_REFUSED"));
+        QVERIFY(refused.open(QIODevice::WriteOnly) && refused.write("4\n") > 0 && refused.flush());
+        QCOMPARE(apply(), u"Cannot save changes (SC 1003)."_s);
+        QCOMPARE(prompts(), 4);
         const std::weak_ptr<MainViewModel> alive = model;
         QTRY_VERIFY_WITH_TIMEOUT(alive.use_count() == 1, 10'000); // the follow-up refreshes
     }

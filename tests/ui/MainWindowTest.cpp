@@ -270,7 +270,8 @@ private Q_SLOTS:
         MainViewModel& m = *w.model;
         QCOMPARE(enabled(), u"Refresh,Apply,Renew DHCP,Disable Adapter,Save Profile…"_s);
         const QImage apply = w.find<QAbstractButton>("Apply")->grab().toImage();
-        QCOMPARE(apply.pixelColor(6, apply.height() / 2), look::colours(ColorScheme::light).accent);
+        QCOMPARE(apply.pixelColor(6, apply.height() / 2).rgb(),
+                 look::colours(ColorScheme::light).accent.rgb());
         m.isLoading = true;
         QCOMPARE(enabled(), u"Disable Adapter,Save Profile…"_s);
         QVERIFY(w.shows("Loading…"));
@@ -433,7 +434,7 @@ private Q_SLOTS:
         QCOMPARE(w.model->searchDomains.value(), Text(u"home"_s));
 
         const auto choose = [&](const QString& entry) {
-            QContextMenuEvent asked(QContextMenuEvent::Keyboard, {});
+            QContextMenuEvent asked(QContextMenuEvent::Keyboard, {}, {});
             QApplication::sendEvent(w.list(), &asked);
             const auto* menu = w.list()->findChild<QMenu*>();
             const auto entries = menu->actions();
