@@ -33,7 +33,7 @@ static void change(NetworkPresetStore& store, unsigned number)
 }
 
 /// kill-test [COUNT]: kills a program that changes its profiles that many times, at random moments; what it
-/// leaves is the list before or after the change it was at.
+/// leaves is the list before or after the change it was at. ARDEO_SEED repeats what was drawn.
 int main(int, char** arguments)
 {
     const int kills = arguments[1] ? std::atoi(arguments[1]) : 60;
@@ -43,7 +43,9 @@ int main(int, char** arguments)
     // cppcheck-suppress variableScope ; one mapping serves all that are killed
     auto& begun = *static_cast<std::atomic<unsigned>*>(
         mmap(nullptr, sizeof(unsigned), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
-    std::minstd_rand random(std::random_device{}());
+    const uint seed = qEnvironmentVariable("ARDEO_SEED", QString::number(std::random_device{}())).toUInt();
+    qInfo("ARDEO_SEED=%u", seed);
+    std::minstd_rand random(seed);
     unsigned changes = 0;
     for (int kill = 0; kill < kills; ++kill) {
         begun = 0;
