@@ -75,8 +75,8 @@ private Q_SLOTS:
                                                .primaryDNS = u"1.1.1.1"_s,
                                                .alternateDNS = u"9.9.9.9"_s,
                                                .searchDomains = u"a/b"_s}}));
-        const QByteArray upper = QByteArray(complete).replace("0f0e0d0c-0b0a", "0F0E0D0C-0B0A");
-        QCOMPARE(*encodePresets(*decoded), '[' + upper.replace("a/b", R"(a\/b)") + ']');
+        const auto written = QByteArray(complete).replace("0f0e0d0c-0b0a", "0F0E0D0C-0B0A");
+        QCOMPARE(*encodePresets(*decoded), '[' + QByteArray(written).replace('/', R"(\/)") + ']');
     }
 
     void presetDecodingIsStrict()
