@@ -375,7 +375,7 @@ private Q_SLOTS:
         }
         for (const char* over : {"Automatically Set IP Address", "Refresh", "Preferred DNS, part 1 of 4"}) {
             bar->setValue(0);
-            w.turnWheel(w.find<QWidget>(over));
+            Window::turnWheel(w.find<QWidget>(over));
             QVERIFY2(bar->value() > 0, over);
         }
         w.window->resize(900, 680);
@@ -535,7 +535,7 @@ private Q_SLOTS:
         QVERIFY(w.list()->hasFocus());
         QVERIFY(w.list()->findChildren<QWidget*>().size() < 20);
         QTest::keyClicks(search, u"99"_s);
-        w.turnWheel(w.find<PopUpButton>("Select Adapter"));
+        Window::turnWheel(w.find<PopUpButton>("Select Adapter"));
         QVERIFY(w.list()->verticalScrollBar()->value() > 0 && w.list()->hasFocus());
         w.model->savePreset(u"New"_s);
         QVERIFY(search->text().isEmpty());
