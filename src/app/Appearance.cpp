@@ -21,6 +21,8 @@ void Appearance::follow()
 {
     auto* style = static_cast<ArdeoStyle*>(QApplication::style());
     style->setReducedMotion(m_desktop.wantsReducedMotion());
+    style->setTextScale(m_desktop.textScale());
+    QApplication::setFont(look::font(TextStyle::body)); // menus and tool tips, too
     const bool dark = m_desktop.isDark().value_or(m_paletteScheme == ColorScheme::dark);
     QApplication::setPalette(look::palette(dark ? ColorScheme::dark : ColorScheme::light));
     QEvent restyled(QEvent::StyleChange);

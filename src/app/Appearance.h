@@ -6,8 +6,8 @@
 namespace ardeo
 {
 
-/// Puts the whole program into its style, and keeps it in the desktop's colour scheme and to the user's wish
-/// for less motion. Made after the QApplication, before its windows.
+/// Puts the whole program into its style, and keeps it in the desktop's colour scheme, its size of text and
+/// to the user's wish for less motion. Made after the QApplication, before its windows.
 class Appearance final
 {
 public:

@@ -3,6 +3,7 @@
 #include "app/MainMenu.h"
 #include "app/Notice.h"
 #include "app/WindowHider.h"
+#include "ui/elements/Style.h"
 #include "ui/elements/SystemWords.h"
 #include "ui/sheets/NoticePanel.h"
 #include "ui/windows/ContentView.h"
@@ -38,9 +39,9 @@ QWidget* makeWindow(const QString& title, QSize size, QWidget* content)
     window->setWindowTitle(title);
     fillWindow(*window, content);
     new QShortcut(Qt::Key_Escape, window, window, &QWidget::close);
-    window->setFixedWidth(size.width());
+    look::followTextSize(window, [window, size] { window->setFixedWidth(look::scaled(size.width())); });
     window->setMinimumHeight(smallestHeight);
-    window->resize(size);
+    window->resize(window->width(), size.height());
     return window;
 }
 

@@ -1,5 +1,7 @@
 #include "app/WindowHider.h"
 
+#include "ui/elements/Style.h"
+
 #include <QEvent>
 
 namespace ardeo
@@ -62,7 +64,9 @@ private:
         QWidget* place = parentWidget() ? parentWidget()->window() : nullptr;
         if (place) {
             place->installEventFilter(&windowDelegate);
-            place->setMinimumSize(smallestSize);
+            look::followTextSize(place, [place] {
+                place->setMinimumSize(smallestSize.expandedTo({look::leastWidth(place), 0}));
+            });
         }
         m_delegate.mainWindow = place;
     }

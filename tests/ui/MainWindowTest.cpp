@@ -354,6 +354,49 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::clipboard()->text(), w.model->currentConfig.value().ipAddress.string());
     }
 
+    void everythingGrowsWithTheText()
+    {
+        Window w;
+        w.addProfiles();
+        w.model->ipv4Mode = IPv4Mode::manual;
+        w.model->dnsMode = DNSMode::manual;
+        w.app->openWindow(u"help"_s);
+        w.app->openWindow(u"shortcuts"_s);
+        const auto places = [&w] {
+            QTest::qWait(50); // for layouts, which settle step by step
+            QList<QRect> rects;
+            for (const QWidget* page : QApplication::topLevelWidgets()) {
+                for (const QWidget* widget : page->findChildren<QWidget*>())
+                    rects << widget->geometry();
+            }
+            return rects;
+        };
+        const auto fits = [](const QWidget* widget) {
+            const auto* label = qobject_cast<const QLabel*>(widget);
+            const int needed = label && label->wordWrap() ? 0 : widget->minimumSizeHint().width();
+            const QRect seen = widget->visibleRegion().boundingRect();
+            return widget->width() >= needed && (seen.isEmpty() || seen.width() == widget->width()) &&
+                   (!label || label->height() >= label->heightForWidth(label->width()));
+        };
+        auto* style = static_cast<ArdeoStyle*>(QApplication::style());
+        const auto before = places();
+        const int octet = w.field("Gateway")->octet(0)->width();
+        style->setTextScale(1.5);
+        QVERIFY(places() != before);
+        QCOMPARE(w.field("Gateway")->octet(0)->width(), octet * 3 / 2);
+        for (const QWidget* page : QApplication::topLevelWidgets()) {
+            for (const QWidget* widget : page->findChildren<QWidget*>()) {
+                const bool hasText = qobject_cast<const QLabel*>(widget) ||
+                                     qobject_cast<const QAbstractButton*>(widget) ||
+                                     qobject_cast<const Badge*>(widget);
+                QVERIFY2(!hasText || !widget->isVisible() || fits(widget),
+                         qPrintable(widget->property("text").toString()));
+            }
+        }
+        style->setTextScale(1);
+        QVERIFY(places() == before);
+    }
+
     void nothingMovesWhileSomethingIsDone()
     {
         Window w;

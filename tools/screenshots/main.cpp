@@ -1,6 +1,6 @@
 // Takes pictures of the window in its typical states, on a simulated machine made for the purpose.
-// ardeo-screenshots FOLDER; needs no display with QT_QPA_PLATFORM=offscreen. QT_SCALE_FACTOR gives other
-// scales.
+// ardeo-screenshots FOLDER [PERCENT]; needs no display with QT_QPA_PLATFORM=offscreen. QT_SCALE_FACTOR gives
+// other scales, PERCENT another size of text.
 
 #include "app/Ardeo_IPConfigApp.h"
 #include "app/MenuBarMenuView.h"
@@ -288,20 +288,24 @@ void shootAll(const QDir& folder, const QString& suffix, QSize size)
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    if (argc != 2) {
-        std::fputs("Usage: ardeo-screenshots FOLDER\n", stderr);
+    const int percent = argc == 3 ? QByteArray(argv[2]).toInt() : 100;
+    if (argc < 2 || argc > 3 || percent <= 0) {
+        std::fputs("Usage: ardeo-screenshots FOLDER [PERCENT]\n", stderr);
         return 2;
     }
     const QDir folder(QString::fromLocal8Bit(argv[1]));
     folder.mkpath(QStringLiteral("."));
     QFont font(QStringLiteral("Inter"));
-    font.setPixelSize(13);
     QApplication::setFont(font);
-    QApplication::setStyle(new ArdeoStyle);
+    auto* style = new ArdeoStyle;
+    QApplication::setStyle(style);
+    style->setTextScale(percent / 100.0);
+    QApplication::setFont(look::font(TextStyle::body));
     QApplication::setWindowIcon(applicationIcon());
 
     const qreal scale = qApp->devicePixelRatio();
-    const QString scaled = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);
+    const QString scaled = (scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale)) +
+                           (percent == 100 ? QString() : QStringLiteral("-%1").arg(percent));
     for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
         const QString dark = scheme == ColorScheme::dark ? QStringLiteral("-dark") : QString();
         QApplication::setPalette(look::palette(scheme));

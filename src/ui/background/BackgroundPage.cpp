@@ -3,6 +3,7 @@
 #include "ui/background/MaterialPanel.h"
 #include "ui/elements/CardScrollArea.h"
 #include "ui/elements/PushButton.h"
+#include "ui/elements/Style.h"
 
 #include <QVBoxLayout>
 
@@ -22,7 +23,7 @@ BackgroundPage::BackgroundPage(Clock& clock, int width, int padding, QWidget* pa
     , m_padding(padding)
     , m_background(new NeuralNetworkBackground(clock, maxDist, speed, this))
 {
-    setFixedWidth(width);
+    look::followTextSize(this, [this, width] { setFixedWidth(look::scaled(width)); });
     m_background->setCovered([this] { return covered(); });
 }
 

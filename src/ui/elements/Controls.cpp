@@ -15,8 +15,11 @@ namespace ardeo
 namespace
 {
 
-constexpr int indicator = 16;
+constexpr int indicatorSize = 16;
 constexpr int iconSize = 64;
+constexpr int symbolSize = 16;
+constexpr int badgeSymbolSize = 12;
+constexpr int controlHeight = 28;
 
 } // namespace
 
@@ -29,8 +32,8 @@ RadioButton::RadioButton(const QString& text, QWidget* parent) : QRadioButton(te
 
 QSize RadioButton::sizeHint() const
 {
-    return {indicator + 4 + fontMetrics().horizontalAdvance(text()) + 4,
-            std::max(20, fontMetrics().height())};
+    return {look::scaled(indicatorSize) + 4 + fontMetrics().horizontalAdvance(text()) + 4,
+            std::max(look::scaled(20), fontMetrics().height())};
 }
 
 bool RadioButton::hitButton(const QPoint& position) const
@@ -41,6 +44,7 @@ bool RadioButton::hitButton(const QPoint& position) const
 void RadioButton::paintEvent(QPaintEvent*)
 {
     const Colours& colours = look::colours(this);
+    const int indicator = look::scaled(indicatorSize);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF circle =
@@ -50,7 +54,7 @@ void RadioButton::paintEvent(QPaintEvent*)
         painter.setBrush(colours.accent);
         painter.drawEllipse(circle);
         painter.setBrush(Qt::white);
-        painter.drawEllipse(circle.center(), 3, 3);
+        painter.drawEllipse(circle.center(), indicator * 3 / 16.0, indicator * 3 / 16.0);
     } else {
         painter.setPen(QPen(colours.tertiary, 1));
         painter.setBrush(isDown()       ? colours.controlPressed
@@ -82,12 +86,12 @@ PopUpButton::PopUpButton(QWidget* parent) : QComboBox(parent)
 
 QSize PopUpButton::sizeHint() const
 {
-    return {160, 28};
+    return {160, look::scaled(controlHeight)};
 }
 
 QSize PopUpButton::minimumSizeHint() const
 {
-    return {80, 28};
+    return {80, look::scaled(controlHeight)};
 }
 
 void PopUpButton::wheelEvent(QWheelEvent* event)
@@ -104,7 +108,8 @@ void PopUpButton::paintEvent(QPaintEvent*)
     const QRectF area = look::deviceAligned(this, rect());
     painter.fillPath(look::continuousRect(area, 6), underMouse() ? colours.controlHovered : colours.control);
     look::strokeInside(painter, area, 6, hasFocus() ? colours.teal : colours.separator, hasFocus() ? 2 : 1);
-    drawSymbol(painter, QRectF(width() - 22, (height() - 16) / 2.0, 16, 16),
+    const int side = look::scaled(symbolSize);
+    drawSymbol(painter, QRectF(width() - 6 - side, (height() - side) / 2.0, side, side),
                QStringLiteral("chevron.up.chevron.down"), colours.secondary);
     painter.setPen(colours.primary);
     painter.setFont(font());
@@ -115,7 +120,7 @@ void PopUpButton::paintEvent(QPaintEvent*)
 
 QRect PopUpButton::labelRect() const
 {
-    return rect().adjusted(10, 0, -26, 0);
+    return rect().adjusted(10, 0, -10 - look::scaled(symbolSize), 0);
 }
 
 bool PopUpButton::event(QEvent* event)
@@ -141,7 +146,7 @@ TextField::TextField(QWidget* parent) : QLineEdit(parent)
 {
     setFont(look::font(TextStyle::body));
     setFrame(false);
-    setFixedHeight(28);
+    look::followTextSize(this, [this] { setFixedHeight(look::scaled(controlHeight)); });
     setTextMargins(6, 0, 6, 0);
     slantPlaceholder(*this);
     QPalette own;
@@ -177,8 +182,9 @@ void Badge::setText(const QString& text)
 
 QSize Badge::sizeHint() const
 {
-    return {5 + 12 + 4 + fontMetrics().horizontalAdvance(m_text) + 5,
-            2 + std::max(12, fontMetrics().height()) + 2};
+    const int symbol = look::scaled(badgeSymbolSize);
+    return {5 + symbol + 4 + fontMetrics().horizontalAdvance(m_text) + 5,
+            2 + std::max(symbol, fontMetrics().height()) + 2};
 }
 
 void Badge::paintEvent(QPaintEvent*)
@@ -188,10 +194,12 @@ void Badge::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(look::continuousRect(look::deviceAligned(this, rect()), 4),
                      look::withOpacity(teal, 0.1));
-    drawSymbol(painter, QRectF(5, (height() - 12) / 2.0, 12, 12), m_symbol, teal);
+    const int symbol = look::scaled(badgeSymbolSize);
+    drawSymbol(painter, QRectF(5, (height() - symbol) / 2.0, symbol, symbol), m_symbol, teal);
     painter.setPen(teal);
     painter.setFont(font());
-    painter.drawText(QRectF(rect()).adjusted(21, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, m_text);
+    painter.drawText(QRectF(rect()).adjusted(5 + symbol + 4, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
+                     m_text);
 }
 
 SymbolView::SymbolView(const QString& symbol, int size, std::function<QColor(const Colours&)> colour,
@@ -200,7 +208,7 @@ SymbolView::SymbolView(const QString& symbol, int size, std::function<QColor(con
     , m_symbol(symbol)
     , m_colour(std::move(colour))
 {
-    setFixedSize(size, size);
+    look::followTextSize(this, [this, size] { setFixedSize(look::scaled(size), look::scaled(size)); });
 }
 
 void SymbolView::paintEvent(QPaintEvent*)

@@ -14,7 +14,7 @@ public:
     FormRow(const QString& label, QWidget* content, QWidget* parent = nullptr);
 };
 
-/// The width of every label column, in points.
+/// The width of every label column, in points at the usual text size.
 inline constexpr int labelColumnWidth = 120;
 
 } // namespace ardeo

@@ -55,7 +55,9 @@ IPAddressField::IPAddressField(Observed<Text>& value, const QString& placeholder
         auto* octet = new QLineEdit;
         octet->setFrame(false);
         octet->setFont(font);
-        octet->setFixedSize(octetWidth, look::lineHeight(font));
+        look::followTextSize(octet, [octet] {
+            octet->setFixedSize(look::scaled(octetWidth), look::lineHeight(octet->font()));
+        });
         octet->setAlignment(Qt::AlignCenter);
         octet->setPlaceholderText(partPlaceholder(i));
         slantPlaceholder(*octet);

@@ -14,7 +14,7 @@ IconLabel::IconLabel(const QString& symbol, const TextLabel::Colour& colour, boo
     row->addWidget(new SymbolView(symbol, 16, colour), 0, wraps ? Qt::AlignTop : Qt::AlignVCenter);
     m_text->setColour(colour);
     m_text->setWordWrap(wraps);
-    m_text->setMinimumHeight(16);
+    look::followTextSize(m_text, [this] { m_text->setMinimumHeight(look::scaled(16)); });
     row->addWidget(m_text, 1);
 }
 

@@ -52,7 +52,7 @@ InfoRow::InfoRow(const QString& label, const QString& value, bool monospaced, QW
 {
     auto* row = rowIn(this, 8);
     auto* text = new TextLabel(label, look::font(TextStyle::callout), Emphasis::secondary);
-    text->setFixedWidth(labelColumnWidth);
+    look::followTextSize(text, [text] { text->setFixedWidth(look::scaled(labelColumnWidth)); });
     m_value = new ValueLabel(QString(),
                              monospaced ? look::monospacedFont(TextStyle::body) : look::font(TextStyle::body),
                              Emphasis::primary);
@@ -60,7 +60,9 @@ InfoRow::InfoRow(const QString& label, const QString& value, bool monospaced, QW
     m_value->setWordWrap(true);
     text->setBuddy(m_value);
     // Both stand on one baseline.
-    text->setContentsMargins(0, QFontMetrics(m_value->font()).ascent() - text->fontMetrics().ascent(), 0, 0);
+    look::followTextSize(text, [this, text] {
+        text->setContentsMargins(0, m_value->fontMetrics().ascent() - text->fontMetrics().ascent(), 0, 0);
+    });
     row->addWidget(text, 0, Qt::AlignTop);
     row->addWidget(m_value, 1);
     m_value->setAccessibleDescription(label);

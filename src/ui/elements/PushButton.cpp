@@ -14,6 +14,7 @@ namespace
 {
 
 constexpr int symbolGap = 5;
+constexpr int symbolSize = 16;
 
 } // namespace
 
@@ -80,14 +81,14 @@ void PushButton::setSpinning(bool spinning, double scale)
 QSize PushButton::sizeHint() const
 {
     const bool large = m_size == Size::large;
-    const int glyph = m_symbol.isEmpty() && !m_spinner ? 0 : 16;
+    const int glyph = m_symbol.isEmpty() && !m_spinner ? 0 : look::scaled(symbolSize);
     const int gap = glyph > 0 && !text().isEmpty() ? symbolGap : 0;
     const int padding = m_kind == Kind::plain ? 0 : text().isEmpty() ? 7 : large ? 14 : 10;
     const int textWidth =
         std::max(fontMetrics().horizontalAdvance(text()), fontMetrics().horizontalAdvance(m_widestText));
     const int width = glyph + gap + textWidth + 2 * padding;
-    const int height = m_kind == Kind::plain ? 16 : large ? 28 : 26;
-    return {width, height};
+    const int height = m_kind == Kind::plain ? symbolSize : large ? 28 : 26;
+    return {width, look::scaled(height)};
 }
 
 QSize PushButton::minimumSizeHint() const
@@ -98,8 +99,9 @@ QSize PushButton::minimumSizeHint() const
 QRectF PushButton::symbolRect() const
 {
     const int textWidth = text().isEmpty() ? 0 : symbolGap + fontMetrics().horizontalAdvance(text());
-    const double left = (width() - 16 - textWidth) / 2.0;
-    return {left, (height() - 16) / 2.0, 16, 16};
+    const int side = look::scaled(symbolSize);
+    const double left = (width() - side - textWidth) / 2.0;
+    return {left, (height() - side) / 2.0, side * 1.0, side * 1.0};
 }
 
 void PushButton::resizeEvent(QResizeEvent*)

@@ -16,8 +16,10 @@ constexpr int spokes = 8;
 
 Spinner::Spinner(double scale, QWidget* parent) : QWidget(parent)
 {
-    const int side = qRound(16 * scale);
-    setFixedSize(side, side);
+    look::followTextSize(this, [this, scale] {
+        const int side = qRound(look::scaled(16) * scale);
+        setFixedSize(side, side);
+    });
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 

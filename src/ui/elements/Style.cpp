@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace ardeo
 {
@@ -57,8 +58,9 @@ const Colours darkColours{
     .controlPressed = QColor(0x45, 0x4A, 0x55),
 };
 
+/// In points of the layout, which are 96 to the inch.
 struct TextSize {
-    int pixels;
+    int points;
     int weight;
 };
 
@@ -75,10 +77,16 @@ constexpr std::array<TextSize, 10> textSizes{{
     {10, QFont::Normal},
 }};
 
+double textScale()
+{
+    const auto* style = qobject_cast<const ArdeoStyle*>(QApplication::style());
+    return style ? style->textScale() : 1;
+}
+
 QFont sized(QFont font, TextStyle style, int weight)
 {
     const TextSize size = textSizes.at(static_cast<size_t>(style));
-    font.setPixelSize(size.pixels);
+    font.setPointSizeF(size.points * 72.0 / 96 * textScale());
     font.setWeight(static_cast<QFont::Weight>(weight < 0 ? size.weight : weight));
     return font;
 }
@@ -158,9 +166,28 @@ QFont monospacedFont(TextStyle style, int weight)
     return sized(QFontDatabase::systemFont(QFontDatabase::FixedFont), style, weight);
 }
 
+int scaled(int points)
+{
+    return qRound(points * textScale());
+}
+
+void followTextSize(QWidget* widget, const std::function<void()>& action)
+{
+    action();
+    if (const auto* style = qobject_cast<const ArdeoStyle*>(QApplication::style()))
+        QObject::connect(style, &ArdeoStyle::textScaleChanged, widget, action);
+}
+
+int leastWidth(const QWidget* widget)
+{
+    for (QWidget* part : widget->findChildren<QWidget*>())
+        part->updateGeometry();
+    return widget->minimumSizeHint().width();
+}
+
 int lineHeight(const QFont& font)
 {
-    return std::min(QFontMetrics(font).height(), font.pixelSize() * 5 / 4);
+    return std::min(QFontMetrics(font).height(), QFontInfo(font).pixelSize() * 5 / 4);
 }
 
 QColor withOpacity(QColor colour, double opacity)
@@ -231,6 +258,21 @@ ArdeoStyle::ArdeoStyle() : QProxyStyle(QStringLiteral("fusion")) {}
 void ArdeoStyle::setReducedMotion(bool reduced)
 {
     m_reducedMotion = reduced;
+}
+
+void ArdeoStyle::setTextScale(double scale)
+{
+    const double growth = scale / std::exchange(m_textScale, scale);
+    if (growth == 1)
+        return;
+    for (QWidget* widget : QApplication::allWidgets()) {
+        QFont font = widget->font();
+        if (!widget->testAttribute(Qt::WA_SetFont) || font.pointSizeF() <= 0)
+            continue;
+        font.setPointSizeF(font.pointSizeF() * growth);
+        widget->setFont(font);
+    }
+    Q_EMIT textScaleChanged();
 }
 
 int ArdeoStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -8,6 +8,8 @@
 #include <QProxyStyle>
 #include <QWidget>
 
+#include <functional>
+
 namespace ardeo
 {
 
@@ -70,6 +72,15 @@ QPalette palette(ColorScheme scheme);
 QFont font(TextStyle style, int weight = -1);
 QFont monospacedFont(TextStyle style, int weight = -1);
 
+/// The whole points that so many points at the usual text size grow to along with the text.
+int scaled(int points);
+/// Does what depends on the size of text, now and whenever it changes while the widget lives.
+void followTextSize(QWidget* widget, const std::function<void()>& action);
+
+/// The width below which something in the widget would be cut, as its parts are now. (What a layout says only
+/// follows them when events are handled.)
+int leastWidth(const QWidget* widget);
+
 /// The height of a line of such text in points, without the room that some fonts keep for stacked accents.
 int lineHeight(const QFont& font);
 
@@ -92,7 +103,8 @@ QWidget* divider(QWidget* parent, double opacity = 1);
 
 } // namespace look
 
-/// The style of the platform-independent controls, and the user's wish for less motion.
+/// The style of the platform-independent controls, and the user's wishes for less motion and for the size of
+/// text.
 class ArdeoStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -100,6 +112,9 @@ class ArdeoStyle final : public QProxyStyle
 public:
     ArdeoStyle();
     void setReducedMotion(bool reduced);
+    /// How many times as large as usual text is. All that there is grows or shrinks along.
+    void setTextScale(double scale);
+    double textScale() const { return m_textScale; }
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returnData) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
@@ -112,8 +127,12 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
 
+Q_SIGNALS:
+    void textScaleChanged();
+
 private:
     bool m_reducedMotion = false;
+    double m_textScale = 1;
 };
 
 } // namespace ardeo

@@ -2,6 +2,7 @@
 
 #include "ui/elements/Style.h"
 
+#include <QEvent>
 #include <QPainter>
 
 #include <utility>
@@ -99,6 +100,15 @@ QSize UnfoldingSection::sizeHint() const
 QSize UnfoldingSection::minimumSizeHint() const
 {
     return {0, sizeHint().height()};
+}
+
+bool UnfoldingSection::event(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest) { // the content has grown
+        updateGeometry();
+        resizeEvent(nullptr);
+    }
+    return QWidget::event(event);
 }
 
 void UnfoldingSection::resizeEvent(QResizeEvent*)

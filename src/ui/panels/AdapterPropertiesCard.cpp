@@ -71,10 +71,13 @@ QWidget* makeStatusRow(MainViewModel& vm)
 QWidget* makeLiveState(MainViewModel& vm)
 {
     auto* live = new QWidget;
-    // Room that the font keeps above its letters counts as a part of the gap.
-    const QFont font = look::monospacedFont(TextStyle::body);
-    const int spare = QFontMetrics(font).height() - look::lineHeight(font);
-    auto* stack = columnIn(live, std::max(0, 4 - spare));
+    auto* stack = columnIn(live, 0);
+    look::followTextSize(live, [stack] {
+        // Room that the font keeps above its letters counts as a part of the gap.
+        const QFont font = look::monospacedFont(TextStyle::body);
+        const int spare = QFontMetrics(font).height() - look::lineHeight(font);
+        stack->setSpacing(std::max(0, 4 - spare));
+    });
     stack->addWidget(makeStatusRow(vm));
 
     using Read = QString (*)(const NetworkAdapterInfo&);

@@ -111,9 +111,11 @@ QWidget* LeftPanel::makeSearchRow()
     auto* field = new QLineEdit;
     field->setFrame(false);
     field->setFont(look::font(TextStyle::callout));
-    field->setFixedHeight(field->fontMetrics().height());
+    look::followTextSize(row, [field, row] {
+        field->setFixedHeight(field->fontMetrics().height());
+        row->setFixedHeight(6 + field->height() + 6);
+    });
     slantPlaceholder(*field);
-    row->setFixedHeight(6 + field->height() + 6);
     field->setPlaceholderText(QStringLiteral("Search profiles"));
     field->setAccessibleName(QStringLiteral("Search profiles"));
     QPalette clear;
@@ -140,7 +142,8 @@ QWidget* LeftPanel::makeSearchRow()
 
     auto* erase = new PushButton(QString(), QStringLiteral("xmark.circle.fill"), PushButton::Kind::plain);
     erase->setTint(&Colours::tertiary);
-    erase->setFixedSize(eraseSize, eraseSize);
+    look::followTextSize(erase,
+                         [erase] { erase->setFixedSize(look::scaled(eraseSize), look::scaled(eraseSize)); });
     erase->setToolTip(QStringLiteral("Clear search"));
     erase->setAccessibleName(QStringLiteral("Clear search"));
     connect(erase, &QPushButton::clicked, this, [this, field] {

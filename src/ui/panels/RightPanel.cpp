@@ -27,6 +27,9 @@ namespace
 
 constexpr double backgroundMaxDist = 220;
 constexpr double backgroundSpeed = 0.25;
+constexpr int smallestWidth = 460;
+/// As much of it grows with the text.
+constexpr int widthOfTexts = 240;
 
 QWidget* makeEmptyState(MainViewModel& vm)
 {
@@ -68,7 +71,8 @@ RightPanel::RightPanel(MainViewModel& model, Clock& clock, QWidget* parent)
     , vm(model)
     , m_background(new NeuralNetworkBackground(clock, backgroundMaxDist, backgroundSpeed, this))
 {
-    setMinimumWidth(460);
+    look::followTextSize(
+        this, [this] { setMinimumWidth(smallestWidth + look::scaled(widthOfTexts) - widthOfTexts); });
     auto* layers = new QStackedLayout(this);
     layers->addWidget(makeContent());
     layers->addWidget(makeEmptyState(vm));

@@ -43,11 +43,14 @@ ConfirmationDialog::ConfirmationDialog(const QString& title, const QString& mess
     }
     go->setToolTip(destructive);
     go->setAccessibleName(destructive);
-    go->setText(go->fontMetrics().elidedText(destructive, Qt::ElideMiddle, dialogWidth - 2 * padding - 20));
     connect(go, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    setFixedSize(dialogWidth,
-                 stack->hasHeightForWidth() ? stack->totalHeightForWidth(dialogWidth) : sizeHint().height());
+    look::followTextSize(this, [this, stack, go, destructive] {
+        const int width = look::scaled(dialogWidth);
+        go->setText(go->fontMetrics().elidedText(destructive, Qt::ElideMiddle, width - 2 * padding - 20));
+        setFixedSize(width,
+                     stack->hasHeightForWidth() ? stack->totalHeightForWidth(width) : sizeHint().height());
+    });
     cancel->setFocus();
 }
 

@@ -34,11 +34,13 @@ NoticePanel::NoticePanel(const QString& title, const QString& text, QWidget* par
     auto* close = new PushButton(QStringLiteral("OK"), QString(), PushButton::Kind::prominent);
     close->setTint(&Colours::tealFill);
     close->setControlSize(PushButton::Size::large);
-    close->setMinimumWidth(96);
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     stack->addWidget(close, 0, Qt::AlignHCenter);
-    setFixedSize(panelWidth, stack->totalHeightForWidth(panelWidth));
+    look::followTextSize(this, [this, stack, close] {
+        close->setMinimumWidth(look::scaled(96));
+        setFixedSize(look::scaled(panelWidth), stack->totalHeightForWidth(look::scaled(panelWidth)));
+    });
     close->setFocus();
 }
 

@@ -35,7 +35,6 @@ ProfileNameSheet::ProfileNameSheet(Observed<Text>& name, const QString& title, c
                      Qt::AlignHCenter);
 
     auto* field = new TextField;
-    field->setFixedWidth(260);
     field->setPlaceholderText(QStringLiteral("Profile name"));
     field->setAccessibleName(QStringLiteral("Profile name"));
     stack->addWidget(field, 0, Qt::AlignHCenter);
@@ -62,7 +61,10 @@ ProfileNameSheet::ProfileNameSheet(Observed<Text>& name, const QString& title, c
     bind(
         this, [&name] { return !isBlank(name.value()); }, [save](bool named) { save->setEnabled(named); });
 
-    setFixedSize(320, sizeHint().height());
+    look::followTextSize(this, [this, field] {
+        field->setFixedWidth(look::scaled(260));
+        setFixedSize(look::scaled(320), sizeHint().height());
+    });
     field->setFocus();
 }
 

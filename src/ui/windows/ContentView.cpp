@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QSplitter>
 
+#include <algorithm>
 #include <utility>
 
 namespace ardeo
@@ -52,8 +53,12 @@ ContentView::ContentView(MainViewModel& model, Clock& clock, NotificationCenter&
 {
     auto* columns = new Splitter(Qt::Horizontal);
     auto* sidebar = new LeftPanel(vm);
-    sidebar->setMinimumWidth(sidebarMinimum);
-    sidebar->setMaximumWidth(sidebarMaximum);
+    look::followTextSize(sidebar, [sidebar] {
+        // Large text needs more than the usual width.
+        const int least = std::max(sidebarMinimum, look::leastWidth(sidebar));
+        sidebar->setMinimumWidth(least);
+        sidebar->setMaximumWidth(std::max(sidebarMaximum, least));
+    });
     auto* detail = new RightPanel(vm, clock);
     columns->addWidget(sidebar);
     columns->addWidget(detail);

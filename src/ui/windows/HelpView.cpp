@@ -145,7 +145,7 @@ HelpView::HelpView(Clock& clock, QWidget* parent) : BackgroundPage(clock, pageWi
     QVBoxLayout* featureRows = addCard(stack, "Features", "star.circle", 6);
     for (const Entry& feature : features) {
         auto* tick = new SymbolView(QStringLiteral("checkmark.circle.fill"), 14, teal);
-        tick->setFixedWidth(18);
+        look::followTextSize(tick, [tick] { tick->setFixedWidth(look::scaled(18)); });
         addRow(featureRows, tick, 8, feature, QFont::Medium, 1);
     }
 
@@ -155,7 +155,7 @@ HelpView::HelpView(Clock& clock, QWidget* parent) : BackgroundPage(clock, pageWi
                                      look::font(TextStyle::callout, QFont::Bold), Emphasis::primary);
         number->setColour(teal);
         number->setContentsMargins(0, 1, 0, 0);
-        number->setFixedWidth(20);
+        look::followTextSize(number, [number] { number->setFixedWidth(look::scaled(20)); });
         addRow(stepRows, number, 12, step, QFont::DemiBold, 2);
     }
     setContent(content);

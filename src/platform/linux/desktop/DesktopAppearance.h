@@ -22,6 +22,8 @@ public:
     /// None where the desktop has no preference.
     std::optional<bool> isDark() const;
     bool wantsReducedMotion() const;
+    /// How large the user wants text, as a multiple of what the desktop comes with.
+    double textScale() const;
 
 Q_SIGNALS:
     void changed();
