@@ -32,7 +32,8 @@ private Q_SLOTS:
         QFETCH(ColorScheme, scheme);
         QFETCH(double, scale);
         const QColor ground = scheme == ColorScheme::dark ? QColor(26, 28, 33) : QColor(244, 246, 249);
-        const QImage small = drawNetwork(size, time, 220, 0.25, scheme, ground);
+        const QImage small =
+            drawNetwork(size, QRectF(QPointF(), size).toAlignedRect(), time, 220, 0.25, scheme, ground);
         QImage image((size * scale).toSize(), QImage::Format_RGB32);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -47,10 +48,29 @@ private Q_SLOTS:
         if (qEnvironmentVariableIsSet("ARDEO_FRAMES"))
             qInfo("%s", all.constData());
     }
+    void whatIsSeenLooksLikeTheWhole()
+    {
+        const auto draw = [](const QRegion& seen) {
+            return drawNetwork({640, 680}, seen, 8e8, 220, 0.25, ColorScheme::light, Qt::white);
+        };
+        const QImage whole = draw(QRect(0, 0, 640, 680));
+        const QImage part = draw(QRegion(0, 0, 640, 680) - QRegion(20, 60, 600, 300));
+        int drawn = 0;
+        for (int y = 0; y < whole.height(); ++y) {
+            for (int x = 0; x < whole.width(); ++x) {
+                const bool isSeen = !QRect(8, 22, 198, 97).contains(x, y);
+                const QColor seen = part.pixelColor(x, y);
+                drawn += seen != Qt::white;
+                QVERIFY(!isSeen || std::abs(seen.red() - whole.pixelColor(x, y).red()) <= 1);
+            }
+        }
+        QVERIFY(drawn > 1000 && part.pixelColor(100, 70) == Qt::white);
+    }
     void ofAnEmptyCanvasThereIsNothing()
     {
-        QVERIFY(drawNetwork({0, 0}, 1, 220, 0.25, ColorScheme::light, Qt::white).isNull());
-        QCOMPARE(drawNetwork({1, 1}, 1, 220, 0.25, ColorScheme::light, Qt::white).size(), QSize(1, 1));
+        QVERIFY(drawNetwork({0, 0}, {}, 1, 220, 0.25, ColorScheme::light, Qt::white).isNull());
+        QCOMPARE(drawNetwork({1, 1}, QRect(0, 0, 1, 1), 1, 220, 0.25, ColorScheme::light, Qt::white).size(),
+                 QSize(1, 1));
     }
 };
 

@@ -10,10 +10,7 @@ namespace ardeo
 
 /// The curve of one node: angular frequencies in radians per scaled second, phases in radians.
 struct NodeParam {
-    double xFreq;
-    double yFreq;
-    double xPhase;
-    double yPhase;
+    double xFreq, yFreq, xPhase, yPhase;
 };
 
 /// Where all nodes are in a canvas of that size, in points; the time is in seconds since 1 January 2001 UTC.

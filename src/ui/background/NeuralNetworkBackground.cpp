@@ -96,24 +96,32 @@ void NeuralNetworkBackground::resizeEvent(QResizeEvent*)
 void NeuralNetworkBackground::timerEvent(QTimerEvent*)
 {
     m_time = m_clock.referenceTime();
-    m_frame = {};
+    forgetPicture();
     if (m_ticks++ % coveredTicks != 0)
         return update(QRegion(rect()) - m_covered());
     m_backdrop = {};
     update();
 }
 
-void NeuralNetworkBackground::forgetFrame()
+void NeuralNetworkBackground::forgetPicture()
 {
     m_frame = {};
+    m_drawn = {};
+}
+
+void NeuralNetworkBackground::forgetFrame()
+{
+    forgetPicture();
     m_backdrop = {};
 }
 
-const QImage& NeuralNetworkBackground::frame()
+const QImage& NeuralNetworkBackground::frame(const QRegion& seen)
 {
-    if (m_frame.isNull())
-        m_frame =
-            drawNetwork(size(), m_time, m_maxDist, m_speed, look::schemeOf(this), look::colours(this).window);
+    if (m_frame.isNull() || !(seen - m_drawn).isEmpty()) {
+        m_drawn += seen;
+        m_frame = drawNetwork(size(), m_drawn, m_time, m_maxDist, m_speed, look::schemeOf(this),
+                              look::colours(this).window);
+    }
     return m_frame;
 }
 
@@ -123,7 +131,7 @@ const QImage& NeuralNetworkBackground::backdrop()
         const auto scaledTo = [](const QImage& image, QSize size) {
             return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         };
-        m_backdrop = scaledTo(frame(), (size() / backdropCell).expandedTo({1, 1}));
+        m_backdrop = scaledTo(frame(rect()), (size() / backdropCell).expandedTo({1, 1}));
         for (int i = 0; i < backdropDoublings; ++i)
             m_backdrop = scaledTo(m_backdrop, m_backdrop.size() * 2);
     }
@@ -136,7 +144,7 @@ void NeuralNetworkBackground::paintEvent(QPaintEvent* event)
     painter.setClipRegion(event->region());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.scale(networkCell, networkCell);
-    painter.drawImage(0, 0, frame());
+    painter.drawImage(0, 0, frame(event->region()));
 }
 
 } // namespace ardeo

@@ -40,15 +40,19 @@ protected:
 
 private:
     void startOrStop();
-    /// Frames are drawn when they are looked at: at the start a window changes its size and looks many times.
+    /// Frames are drawn when they are looked at, and where: at the start a window changes its size and looks
+    /// many times, and later the cards cover most of it.
+    const QImage& frame(const QRegion& seen);
+    void forgetPicture();
+    /// The picture, and the backdrop that is made of it.
     void forgetFrame();
-    const QImage& frame();
 
     Clock& m_clock;
     double m_maxDist;
     double m_speed;
     std::function<QRegion()> m_covered = [] { return QRegion(); };
     QImage m_frame;
+    QRegion m_drawn;
     QImage m_backdrop;
     double m_time = 0;
     int m_timer = 0;

@@ -93,7 +93,7 @@ struct Plane {
     QSize size;
     std::vector<float> depths =
         std::vector<float>(static_cast<size_t>(size.width()) * static_cast<size_t>(size.height()));
-    float* row(int y) { return depths.data() + static_cast<ptrdiff_t>(y) * size.width(); }
+    float& at(int x, int y) { return depths[static_cast<size_t>(y * size.width() + x)]; }
 };
 /// The first of the cells whose middles lie between two coordinates, and the one behind the last.
 std::pair<int, int> cellsBetween(double from, double to, int count)
@@ -104,11 +104,6 @@ std::pair<int, int> cellsBetween(double from, double to, int count)
     return {cell(from), cell(to)};
 }
 
-constexpr double middle(int cell)
-{
-    return (cell + 0.5) * networkCell;
-}
-
 void addLink(Plane& plane, const NodeLink& link)
 {
     const QPointF way = link.to - link.from;
@@ -116,13 +111,12 @@ void addLink(Plane& plane, const NodeLink& link)
     // Both from the link's middle: v along it, u across.
     const QPointF unit = way / length;
     const QPointF centre = (link.from + link.to) / 2;
-    const QPointF step = unit * networkCell;
     const double whole = length / 2 - reach * endDeviation;
     const auto [top, bottom] =
         cellsBetween(std::min(link.from.y(), link.to.y()) - glowReach,
                      std::max(link.from.y(), link.to.y()) + glowReach, plane.size.height());
     for (int y = top; y < bottom; ++y) {
-        const double dy = middle(y) - centre.y();
+        const double dy = (y + 0.5) * networkCell - centre.y();
         // Where this row is near enough to the link: within its reach across, and not far behind its ends.
         const double slope = std::max(std::abs(unit.y()), 1e-6);
         const double nearest = centre.x() + dy * unit.x() * (unit.y() < 0 ? -1 : 1) / slope;
@@ -130,13 +124,12 @@ void addLink(Plane& plane, const NodeLink& link)
             std::max(std::min(link.from.x(), link.to.x()) - glowReach, nearest - glowReach / slope),
             std::min(std::max(link.from.x(), link.to.x()) + glowReach, nearest + glowReach / slope),
             plane.size.width());
-        const double dx = middle(begin) - centre.x();
+        const double dx = (begin + 0.5) * networkCell - centre.x();
         double v = dx * unit.x() + dy * unit.y();
         double u = dx * unit.y() - dy * unit.x();
-        float* const row = plane.row(y);
-        for (int x = begin; x < past; ++x, v += step.x(), u += step.y()) {
+        for (int x = begin; x < past; ++x, v += unit.x() * networkCell, u += unit.y() * networkCell) {
             const double there = ending.at(std::max(std::abs(v) - whole, 0.0));
-            row[x] += static_cast<float>(link.opacity * across.at(u) * there);
+            plane.at(x, y) += static_cast<float>(link.opacity * across.at(u) * there);
         }
     }
 }
@@ -147,43 +140,51 @@ void addDisc(Plane& plane, QPointF centre, const Profile& profile, double far)
     const auto [top, bottom] = cellsBetween(centre.y() - far, centre.y() + far, plane.size.height());
     const auto [begin, past] = cellsBetween(centre.x() - far, centre.x() + far, plane.size.width());
     for (int y = top; y < bottom; ++y) {
-        const double here = profile.at(middle(y) - centre.y());
+        const double here = profile.at((y + 0.5) * networkCell - centre.y());
         for (int x = begin; x < past; ++x)
-            plane.row(y)[x] += static_cast<float>(here * profile.at(middle(x) - centre.x()));
+            plane.at(x, y) += static_cast<float>(here * profile.at((x + 0.5) * networkCell - centre.x()));
     }
 }
 
 } // namespace
 
-QImage drawNetwork(QSizeF size, double time, double maxDist, double speed, ColorScheme scheme, QColor ground)
+QImage drawNetwork(QSizeF size, const QRegion& seen, double time, double maxDist, double speed,
+                   ColorScheme scheme, QColor ground)
 {
-    const QSize cells = QRectF(QPointF(), size / networkCell).toAlignedRect().size();
-    Plane links{cells};
-    Plane dots{cells};
+    QImage picture(QRectF(QPointF(), size / networkCell).toAlignedRect().size(), QImage::Format_RGB32);
+    picture.fill(ground);
+    QRegion cells; // with their neighbours, which smooth scaling mixes in
+    for (const QRect& part : seen)
+        cells += QRect(part.topLeft() / networkCell, part.bottomRight() / networkCell).adjusted(-1, -1, 1, 1);
     const std::vector<QPointF> positions = nodePositions(size, time, speed);
-    for (const NodeLink& link : linksBetween(positions, maxDist))
-        addLink(links, link);
-    for (const QPointF& position : positions) {
-        addDisc(links, position, nodeGlow, reach * std::sqrt(nodeGlowVariance));
-        addDisc(dots, position, dot, reach * std::sqrt(dotVariance));
-    }
+    const std::vector<NodeLink> near = linksBetween(positions, maxDist);
     const bool dark = scheme == ColorScheme::dark;
     const QVector3D linkColour = dark ? QVector3D(25.5F, 102, 242.25F) : QVector3D(0, 140.25F, 191.25F);
     const QVector3D dotColour = dark ? QVector3D(255, 255, 255) : QVector3D(25.5F, 76.5F, 153);
     const QVector3D behind = QVector3D(ground.redF(), ground.greenF(), ground.blueF()) * 255;
-    QImage picture(cells, QImage::Format_RGB32);
-    picture.fill(ground);
-    for (int y = 0; y < cells.height(); ++y) {
-        const float* const linkDepths = links.row(y);
-        const float* const dotDepths = dots.row(y);
-        auto* const pixels = reinterpret_cast<QRgb*>(picture.scanLine(y));
-        for (int x = 0; x < cells.width(); ++x) {
-            if (linkDepths[x] <= 0)
-                continue;
-            QVector3D colour = linkColour + (behind - linkColour) * std::exp(-linkDepths[x]);
-            if (dotDepths[x] > 0)
-                colour = dotColour + (colour - dotColour) * std::exp(-dotDepths[x]);
-            pixels[x] = qRgb(qRound(colour.x()), qRound(colour.y()), qRound(colour.z()));
+    for (const QRect& part : cells.intersected(picture.rect())) {
+        Plane links{part.size()}, dots{part.size()};
+        const QPointF corner = part.topLeft() * networkCell;
+        for (const NodeLink& link : near) {
+            const NodeLink here{link.from - corner, link.to - corner, link.opacity};
+            if (std::min(here.from.x(), here.to.x()) - glowReach < part.width() * networkCell &&
+                std::max(here.from.x(), here.to.x()) + glowReach > 0)
+                addLink(links, here);
+        }
+        for (const QPointF& position : positions) {
+            addDisc(links, position - corner, nodeGlow, reach * std::sqrt(nodeGlowVariance));
+            addDisc(dots, position - corner, dot, reach * std::sqrt(dotVariance));
+        }
+        for (int y = 0; y < part.height(); ++y) {
+            auto* const pixels = reinterpret_cast<QRgb*>(picture.scanLine(part.top() + y)) + part.left();
+            for (int x = 0; x < part.width(); ++x) {
+                if (links.at(x, y) <= 0)
+                    continue;
+                QVector3D colour = linkColour + (behind - linkColour) * std::exp(-links.at(x, y));
+                if (dots.at(x, y) > 0)
+                    colour = dotColour + (colour - dotColour) * std::exp(-dots.at(x, y));
+                pixels[x] = qRgb(qRound(colour.x()), qRound(colour.y()), qRound(colour.z()));
+            }
         }
     }
     return picture;

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QImage>
+#include <QRegion>
 #include <QSizeF>
 
 namespace ardeo
@@ -13,8 +14,9 @@ namespace ardeo
 inline constexpr int networkCell = 3;
 
 /// The network in a canvas of that size, in points, on opaque ground, as a small picture of one pixel for
-/// each cell of the canvas; the last ones may stand out over its edge. The time is in seconds since 1 January
-/// 2001 UTC.
-QImage drawNetwork(QSizeF size, double time, double maxDist, double speed, ColorScheme scheme, QColor ground);
+/// each cell of the canvas; the last ones may stand out over its edge. Where it is not seen there is nothing
+/// but ground. The time is in seconds since 1 January 2001 UTC.
+QImage drawNetwork(QSizeF size, const QRegion& seen, double time, double maxDist, double speed,
+                   ColorScheme scheme, QColor ground);
 
 } // namespace ardeo
