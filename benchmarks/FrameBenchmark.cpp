@@ -21,7 +21,9 @@ void frame(benchmark::State& state)
         QPainter painter(&screen);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.scale(scale * networkCell, scale * networkCell);
-        painter.drawImage(0, 0, drawNetwork(size, time, 220, 0.25, ColorScheme::light, Qt::white));
+        painter.drawImage(0, 0,
+                          drawNetwork(size, QRectF(QPointF(), size).toAlignedRect(), time, 220, 0.25,
+                                      ColorScheme::light, Qt::white));
         time += step;
     }
 }
@@ -30,7 +32,8 @@ void composition(benchmark::State& state)
 {
     double time = 8e8;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(drawNetwork(size, time, 220, 0.25, ColorScheme::light, Qt::white));
+        benchmark::DoNotOptimize(drawNetwork(size, QRectF(QPointF(), size).toAlignedRect(), time, 220, 0.25,
+                                             ColorScheme::light, Qt::white));
         time += step;
     }
 }

@@ -36,6 +36,7 @@
 #include <QWheelEvent>
 
 #include <fcntl.h>
+#include <utility>
 
 using namespace ardeo;
 using namespace std::chrono_literals;
@@ -49,10 +50,8 @@ auto settled(Look look)
 {
     for (auto last = look();;) {
         QTest::qWait(50);
-        const auto now = look();
-        if (now == last)
-            return now;
-        last = now;
+        if (const auto now = std::exchange(last, look()); now == last)
+            return last;
     }
 }
 

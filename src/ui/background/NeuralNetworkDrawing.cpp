@@ -163,7 +163,8 @@ QImage drawNetwork(QSizeF size, const QRegion& seen, double time, double maxDist
     const QVector3D dotColour = dark ? QVector3D(255, 255, 255) : QVector3D(25.5F, 76.5F, 153);
     const QVector3D behind = QVector3D(ground.redF(), ground.greenF(), ground.blueF()) * 255;
     for (const QRect& part : cells.intersected(picture.rect())) {
-        Plane links{part.size()}, dots{part.size()};
+        Plane links{part.size()};
+        Plane dots{part.size()};
         const QPointF corner = part.topLeft() * networkCell;
         for (const NodeLink& link : near) {
             const NodeLink here{link.from - corner, link.to - corner, link.opacity};
