@@ -104,6 +104,8 @@ MenuBarMenuView::MenuBarMenuView(MainViewModel& model, AppDelegate& appDelegate,
     , m_notifications(notifications)
     , m_clock(*platform.clock)
 {
+    connect(this, &QMenu::aboutToShow, this, [this] { vm.follow(this, true); });
+    connect(this, &QMenu::aboutToHide, this, [this] { vm.follow(this, false); });
     addText(look::font(TextStyle::callout, QFont::DemiBold), Emphasis::primary, [this] {
         const std::optional<AdapterInfo> selected = vm.selectedAdapter.value();
         return selected ? selected->serviceName.string() : QString();

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QThreadPool>
 
+#include <chrono>
 #include <condition_variable>
 #include <mutex>
 
@@ -17,7 +18,7 @@ namespace ardeo
 /// The only part that touches the system's network configuration. Its operations run one after the other on a
 /// thread of its own, so that their blocking calls never hold up the caller; the futures finish there. Each
 /// operation opens what it needs of the system, and has released it before the next one begins: nothing is
-/// cached. When no other one follows at once, the system may rest.
+/// cached. When no other one follows at once, the system may rest, or tell of changes.
 class NetworkConfigService final : public QObject
 {
     Q_OBJECT
@@ -40,7 +41,13 @@ public:
     /// Switches the service on or off, also when it is so already. Fails with ConfigError.
     QFuture<void> setServiceEnabled(bool enabled, const Text& serviceName, AuthorizationRef authorization);
 
+    /// Whether changed is emitted from now on. While it is, the system is not left to rest.
+    void followChanges(bool follow);
+
 Q_SIGNALS:
+    /// What others have changed may read differently now. Emitted on the service's thread, at most every
+    /// half a second.
+    void changed();
     /// An operation waits for another program, by its process number, or 0 where that cannot be told. Both
     /// are emitted on the service's thread.
     void waitingBegan(qint64 processID);
@@ -55,6 +62,8 @@ private:
     SystemConfiguration& m_system;
     /// How many operations have been asked for, and the destruction.
     int m_asked = 0;
+    bool m_follows = false;
+    std::chrono::steady_clock::time_point m_quietUntil;
     std::mutex m_asking;
     std::condition_variable m_next;
     QThreadPool m_thread;

@@ -98,7 +98,7 @@ private:
     void throwTrouble() const
     {
         if (const auto trouble = m_platform.trouble())
-            fail(*trouble);
+            fail(trouble->sentence);
     }
 
     void throwIfUnreadable() const

@@ -8,6 +8,7 @@
 #include "store/NetworkPresetStore.h"
 
 #include <QCoroTask>
+#include <QSet>
 
 #include <memory>
 
@@ -35,6 +36,8 @@ public:
     /// answered.
     Observed<std::optional<Text>> trouble;
     Observed<std::optional<AdapterInfo>> selectedAdapter;
+    /// Whether the selected service was not among those that were listed last.
+    Observed<bool> selectedIsGone{false};
     /// What was last read of the selected service. Tells its observers of every assignment.
     Observed<NetworkAdapterInfo> currentConfig;
 
@@ -72,6 +75,10 @@ public:
     QCoro::Task<> selectAdapter(AdapterInfo adapter);
     /// Reads the service and fills the form with what it finds.
     QCoro::Task<> loadCurrentConfig(AdapterInfo adapter);
+
+    /// Whether that viewer shows the model on screen. While any does, what others change is followed: the
+    /// services and the live state, and the form as long as it has no edits.
+    void follow(const QObject* viewer, bool isShown);
 
     void populateForm(const NetworkAdapterInfo& configuration);
     /// Fills the form from a profile; nothing is written to the system.
@@ -119,8 +126,17 @@ private:
     QCoro::Task<bool> carryOut(Change change, std::chrono::milliseconds settlingTime);
     QCoro::Task<> scheduleFollowUpRefresh();
     QCoro::Task<> noteWaiting(std::optional<LockHolder> holder);
+    QCoro::Task<> noteChange();
+    QCoro::Task<> readAgain();
+    bool isBusy() const { return isLoading.value() || isApplying.value(); }
+    bool isEdited() const;
 
     std::optional<LockHolder> m_lockHolder;
+    QSet<const QObject*> m_viewers;
+    bool m_hasChanged = false;
+    bool m_isReadingAgain = false;
+    QPropertyNotifier m_loadingEnds;
+    QPropertyNotifier m_applyingEnds;
 };
 
 } // namespace ardeo

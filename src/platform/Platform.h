@@ -13,6 +13,15 @@
 namespace ardeo
 {
 
+/// Why the system could not be reached.
+struct Trouble {
+    /// Whether nobody is there to answer, or somebody who does not.
+    enum class Kind { absent, silent };
+    Kind kind = Kind::absent;
+    /// For the user.
+    QString sentence;
+};
+
 /// Everything the program needs of the operating system, and the only thing that differs between the real
 /// machine and the simulated one. It outlives whoever uses it.
 struct Platform {
@@ -27,8 +36,8 @@ struct Platform {
     std::unique_ptr<Workspace> workspace;
     /// Says which system this is, for people.
     QString description;
-    /// Why the system could not be reached the last time it was asked, as a sentence; none when it answered.
-    std::function<std::optional<QString>()> trouble = [] { return std::nullopt; };
+    /// Why the system could not be reached the last time it was asked; none when it answered.
+    std::function<std::optional<Trouble>()> trouble = [] { return std::nullopt; };
 };
 
 /// What the program is called wherever the system wants a unique name for it.

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -132,6 +133,9 @@ struct LockHolder {
 };
 using WaitingObserver = std::function<void(const std::optional<LockHolder>&)>;
 
+/// What changes within that time is told at once.
+inline constexpr std::chrono::milliseconds changeInterval(250);
+
 /// The system's network configuration. All of it is used from one thread at a time and may block it; one
 /// operation (all handles that live at the same time) answers within ten seconds, waiting for the lock and
 /// for a prompt not counted.
@@ -148,6 +152,12 @@ public:
     /// Nothing will be asked for a while: gives up what was kept to answer the next operation sooner. Each
     /// operation is told how things are at its moment in any case.
     virtual void rest() {}
+    /// Waits until the preferences or the live state may read differently from what was told before; false
+    /// when it is interrupted first. The first wait after a rest tells of a change at once: nobody has
+    /// listened until then.
+    virtual bool awaitChange() = 0;
+    /// Ends awaitChange, the one that goes on or else the next one. May be called from any thread.
+    virtual void interrupt() = 0;
     /// Has the observer told who holds the lock that an operation begins to wait for, and none when it has
     /// it, on the thread of the operation. To be set before the first one.
     void observeWaiting(WaitingObserver observer) { m_waiting = std::move(observer); }

@@ -50,6 +50,18 @@ public:
     QSemaphore lockReleased;
 
     void rest() override { ++rests; }
+    /// Tells whoever waits that something has changed.
+    void change() { m_changes.release(); }
+    bool awaitChange() override
+    {
+        m_changes.acquire();
+        return !m_isInterrupted.exchange(false);
+    }
+    void interrupt() override
+    {
+        if (!m_isInterrupted.exchange(true))
+            m_changes.release();
+    }
     std::unique_ptr<Preferences> createPreferences(const QString& name) override
     {
         pass();
@@ -183,6 +195,8 @@ private:
     }
 
     qint32 m_status = 0;
+    QSemaphore m_changes;
+    std::atomic<bool> m_isInterrupted = false;
 };
 
 } // namespace ardeo

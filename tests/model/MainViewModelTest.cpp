@@ -202,6 +202,52 @@ private Q_SLOTS:
         QTRY_VERIFY(!model.waitsFor.value());
     }
 
+    void whatOthersChangeIsFollowedButEditsStay()
+    {
+        Fixture fixture;
+        MainViewModel& model = *fixture.model;
+        FakeSystemConfiguration& system = *fixture.system;
+        const auto setAddress = [&system](const QString& address) {
+            const Dictionary live{{u"Addresses"_s, QStringList(address)}};
+            system.state[u"State:/Network/Service/Wi-Fi/IPv4"_s] = address.isEmpty() ? QVariant() : live;
+            system.change();
+        };
+        const auto isRead = [&model](const char* address) {
+            return model.currentConfig.value().ipAddress == Text(QLatin1String(address));
+        };
+        setAddress(u"10.0.0.3"_s); // nobody looks
+        QVERIFY(!QTest::qWaitFor([&] { return isRead("10.0.0.3"); }, 100));
+        const auto neverLoading = model.isLoading.addNotifier([] { QFAIL("shown as loading"); });
+        model.follow(this, true);
+        QTRY_VERIFY(isRead("10.0.0.3") && !model.hasChanges());
+        model.router = u"..."_s; // the editor's writing of an empty one
+        setAddress(u"10.0.0.4"_s);
+        QTRY_COMPARE(model.ipAddress.value(), Text(u"10.0.0.4"_s));
+        model.router = u"edited"_s;
+        setAddress(u"10.0.0.5"_s);
+        QTRY_VERIFY(isRead("10.0.0.5"));
+        QCOMPARE(model.ipAddress.value(), Text(u"10.0.0.4"_s));
+        QCOMPARE(model.router.value(), Text(u"edited"_s));
+        model.isApplying = true;
+        setAddress(u""_s);
+        QVERIFY(!QTest::qWaitFor([&] { return isRead(""); }, 1000));
+        model.isApplying = false;
+        QTRY_VERIFY(isRead("") && !model.selectedAdapter.value()->isActive);
+
+        setAddress(u"10.0.0.6"_s);
+        QTRY_VERIFY(isRead("10.0.0.6") && model.selectedAdapter.value()->isActive);
+        const auto service = system.services->takeAt(1);
+        system.change();
+        QTRY_VERIFY(model.selectedIsGone.value() && !model.selectedAdapter.value()->isActive);
+        QCOMPARE(fixture.selected(), u"Wi-Fi"_s);
+        system.services->append(service);
+        system.change();
+        QTRY_VERIFY(!model.selectedIsGone.value() && isRead("10.0.0.6"));
+        const int rests = system.rests;
+        model.follow(this, false);
+        QTRY_COMPARE(system.rests.load(), rests + 1); // and not before
+    }
+
     void consentIsAskedForOnceUntilSomethingFails()
     {
         Fixture fixture;
@@ -385,7 +431,9 @@ private Q_SLOTS:
             if (once(3))
                 system.refusals[once(2) ? u"commit"_s : u"lock"_s] = 1003;
             MainViewModel& model = *fixture.model;
-            const std::array<std::function<void()>, 7> actions{
+            const std::array<std::function<void()>, 9> actions{
+                [&] { model.follow(&model.configService, once(2)); },
+                [&] { system.change(); },
                 [&] { model.refreshAdapters(); },
                 [&] { model.loadAdapters(); },
                 [&] { model.applyConfiguration(); },
@@ -397,12 +445,13 @@ private Q_SLOTS:
                         model.selectAdapter(adapters.at(random.bounded(adapters.size())));
                 }};
             for (int step = random.bounded(60); step > 0; --step) {
-                actions.at(random.bounded(7U))();
+                actions.at(random.bounded(9U))();
                 if (once(2))
                     QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
             }
             if (once(2))
-                continue; // quits amid all of it
+                continue;                         // quits amid all of it
+            QCoro::waitFor(model.loadAdapters()); // chooses where nothing was chosen
             do {
                 fixture.clock->advance(10s);
                 QCoro::waitFor(model.refreshAdapters());

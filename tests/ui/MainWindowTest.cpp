@@ -27,6 +27,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPaintEvent>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -54,6 +55,27 @@ auto settled(Look look)
             return last;
     }
 }
+
+/// Where a window has been painted since this was made.
+class Painted final : public QObject
+{
+public:
+    explicit Painted(QWidget& window) : m_window(window) { qApp->installEventFilter(this); }
+    QRegion region;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto* widget = qobject_cast<QWidget*>(watched);
+        if (event->type() == QEvent::Paint && widget && m_window.isAncestorOf(widget))
+            region +=
+                static_cast<QPaintEvent*>(event)->region().translated(widget->mapTo(&m_window, QPoint()));
+        return false;
+    }
+
+private:
+    QWidget& m_window;
+};
 
 /// The main window over a simulated machine of its own.
 struct Window {
@@ -444,6 +466,40 @@ private Q_SLOTS:
         w.model->dnsMode = DNSMode::manual;
         settled(places);
         QCOMPARE(bar->maximum(), bar->minimum());
+    }
+
+    void whatOthersChangeIsFollowedWhereItShows()
+    {
+        Window w;
+        const auto change = [&w](const char* before, const char* after) {
+            QFile machine(w.folder.filePath(u"machine.json"_s)); // in its place, as an editor does it
+            QVERIFY(machine.open(QIODevice::ReadWrite));
+            QByteArray text = machine.readAll();
+            QVERIFY(machine.resize(0));
+            machine.write(text.replace(before, after));
+        };
+        const auto comes = [&w](const char* name) {
+            return QTest::qWaitFor([&] { return w.find<QWidget>(name) != nullptr; });
+        };
+        change("10.20.1.42", "10.20.1.43");
+        QVERIFY(comes("10.20.1.43"));
+        QCOMPARE(w.model->ipAddress.value(), Text(u"10.20.1.43"_s));
+        w.model->primaryDNS = Text(u"9.9.9.9"_s);
+        settled([&w] { return w.window->grab().toImage(); });
+        const Painted painted(*w.window);
+        change("10.20.1.43", "10.20.1.44");
+        QVERIFY(comes("10.20.1.44"));
+        const auto* row = w.find<QLabel>("10.20.1.44");
+        QCOMPARE(settled([&painted] { return painted.region; }),
+                 QRegion(QRect(row->mapTo(w.window, QPoint()), row->size())));
+        QCOMPARE(w.model->primaryDNS.value(), Text(u"9.9.9.9"_s));
+        change("\"Ethernet\"", "\"LAN\"");
+        QVERIFY(comes("Ethernet (removed)") && w.shows("Not connected"));
+        w.window->hide();
+        QTRY_VERIFY(!w.find<QWidget>("Refresh"));
+        change("\"LAN\"", "\"Ethernet\"");
+        w.window->show();
+        QTRY_VERIFY(w.shows("Connected") && w.shows("10.20.1.44"));
     }
 
     void pressedButtonsKeepTheFocus()

@@ -5,6 +5,10 @@
 #include "platform/ServiceChanges.h"
 #include "platform/simulated/SimulatedState.h"
 
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QTimer>
+
 #include <fcntl.h>
 #include <utility>
 
@@ -318,6 +322,58 @@ std::optional<Json> SimulatedConfiguration::read()
     m_readable = machine.has_value();
     m_status = machine ? SystemStatus::ok : SystemStatus::noStoreServer;
     return machine;
+}
+
+void SimulatedConfiguration::watch()
+{
+    // The file is replaced as a whole, which its folder tells; an editor may also write into it.
+    const QString file = m_machine.file();
+    m_watcher = std::make_unique<QFileSystemWatcher>(QStringList{file, QFileInfo(file).path()});
+    const auto note = [this, file] {
+        m_hasChanged = true;
+        m_watcher->addPath(file); // as long as it is the old one, it is watched already
+    };
+    QObject::connect(m_watcher.get(), &QFileSystemWatcher::fileChanged, note);
+    QObject::connect(m_watcher.get(), &QFileSystemWatcher::directoryChanged, [this, file, note] {
+        if (!m_watcher->files().contains(file))
+            note();
+    });
+}
+
+bool SimulatedConfiguration::awaitChange()
+{
+    if (!m_watcher) {
+        watch();
+        return true;
+    }
+    QEventLoop loop;
+    const auto setWaiting = [this](QEventLoop* waiting) {
+        const std::scoped_lock lock(m_waitingAccess);
+        m_waiting = waiting;
+    };
+    const auto waitUntil = [&](auto condition) {
+        while (!m_isInterrupted && !condition())
+            loop.processEvents(QEventLoop::WaitForMoreEvents);
+    };
+    setWaiting(&loop);
+    waitUntil([this] { return m_hasChanged; });
+    QTimer interval;
+    interval.setSingleShot(true);
+    interval.start(changeInterval);
+    waitUntil([&interval] { return !interval.isActive(); });
+    setWaiting(nullptr);
+    if (m_isInterrupted.exchange(false))
+        return false;
+    m_hasChanged = false;
+    return true;
+}
+
+void SimulatedConfiguration::interrupt()
+{
+    m_isInterrupted = true;
+    const std::scoped_lock lock(m_waitingAccess);
+    if (m_waiting)
+        m_waiting->wakeUp();
 }
 
 std::unique_ptr<Preferences> SimulatedConfiguration::open(bool authorized)

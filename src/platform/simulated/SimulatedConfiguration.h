@@ -2,7 +2,13 @@
 
 #include "platform/simulated/SimulatedMachine.h"
 
+#include <QFileSystemWatcher>
+
 #include <atomic>
+#include <memory>
+#include <mutex>
+
+class QEventLoop;
 
 namespace ardeo
 {
@@ -16,18 +22,29 @@ public:
     std::unique_ptr<Preferences> createPreferencesWithAuthorization(const QString& name,
                                                                     AuthorizationRef authorization) override;
     std::unique_ptr<DynamicStore> createDynamicStore(const QString& name) override;
+    void rest() override { m_watcher.reset(); }
+    bool awaitChange() override;
+    void interrupt() override;
     qint32 error() const override { return static_cast<qint32>(m_status); }
 
     /// Whether the machine's file could be read the last time. May be called from any thread.
     bool isReadable() const { return m_readable; }
 
 private:
+    void watch();
     std::optional<Json> read();
     std::unique_ptr<Preferences> open(bool authorized);
 
     SimulatedMachine m_machine;
     std::atomic<bool> m_readable = true;
     SystemStatus m_status = SystemStatus::ok;
+    /// Belongs to the thread of the operations.
+    std::unique_ptr<QFileSystemWatcher> m_watcher;
+    bool m_hasChanged = false;
+    std::atomic<bool> m_isInterrupted = false;
+    /// The loop in which a change is waited for; null while none is.
+    QEventLoop* m_waiting = nullptr;
+    std::mutex m_waitingAccess;
 };
 
 } // namespace ardeo

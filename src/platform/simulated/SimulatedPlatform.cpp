@@ -66,10 +66,11 @@ Platform simulatedPlatform(const QString& machineFile, std::unique_ptr<Clock> cl
     machine.seed();
     auto configuration = std::make_unique<SimulatedConfiguration>(machine);
     Platform platform;
-    platform.trouble = [system = configuration.get(), file = machine.file()]() -> std::optional<QString> {
+    platform.trouble = [system = configuration.get(), file = machine.file()]() -> std::optional<Trouble> {
         if (system->isReadable())
             return std::nullopt;
-        return QStringLiteral("The simulated machine's file %1 cannot be read.").arg(file);
+        return Trouble{Trouble::Kind::absent,
+                       QStringLiteral("The simulated machine's file %1 cannot be read.").arg(file)};
     };
     platform.systemConfiguration = std::move(configuration);
     platform.authorization = std::make_unique<SimulatedAuthorization>(machine);

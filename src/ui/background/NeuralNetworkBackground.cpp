@@ -2,11 +2,11 @@
 
 #include "ui/background/NeuralNetworkDrawing.h"
 #include "ui/elements/Style.h"
+#include "ui/elements/Visibility.h"
 
 #include <QEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QWindow>
 
 namespace ardeo
 {
@@ -30,7 +30,9 @@ NeuralNetworkBackground::NeuralNetworkBackground(Clock& clock, double maxDist, d
     , m_clock(clock)
     , m_maxDist(maxDist)
     , m_speed(speed)
+    , m_visibility(new Visibility(this))
 {
+    connect(m_visibility, &Visibility::changed, this, &NeuralNetworkBackground::startOrStop);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::NoFocus);
@@ -44,38 +46,17 @@ void NeuralNetworkBackground::setCovered(std::function<QRegion()> covered)
 
 void NeuralNetworkBackground::startOrStop()
 {
-    const QWindow* handle = window()->windowHandle();
-    const bool seen = isVisible() && !window()->isMinimized() && handle && handle->isExposed();
-    const bool moves = seen && look::duration(this, 1) > 0;
+    const bool moves = m_visibility->isSeen() && look::duration(this, 1) > 0;
     if (moves && m_timer == 0)
         m_timer = startTimer(tickMilliseconds, Qt::PreciseTimer);
     if (!moves)
         killTimer(std::exchange(m_timer, 0));
 }
 
-void NeuralNetworkBackground::showEvent(QShowEvent*)
-{
-    if (QWindow* handle = window()->windowHandle())
-        handle->installEventFilter(this);
-    window()->installEventFilter(this);
-    startOrStop();
-}
-
 void NeuralNetworkBackground::hideEvent(QHideEvent*)
 {
-    startOrStop();
     // Nobody sees it, maybe for days.
     forgetFrame();
-}
-
-bool NeuralNetworkBackground::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::Expose || event->type() == QEvent::WindowStateChange) {
-        // What the event is about has happened only when it has been handled.
-        QMetaObject::invokeMethod(
-            this, [this] { startOrStop(); }, Qt::QueuedConnection);
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void NeuralNetworkBackground::changeEvent(QEvent* event)

@@ -11,6 +11,8 @@
 namespace ardeo
 {
 
+class Visibility;
+
 /// A slowly drifting network behind a view's content. It lets every click through, and moves only while it
 /// can be seen and the user does not want less motion.
 class NeuralNetworkBackground final : public QWidget
@@ -33,10 +35,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
-    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void startOrStop();
@@ -50,6 +50,7 @@ private:
     Clock& m_clock;
     double m_maxDist;
     double m_speed;
+    Visibility* m_visibility;
     std::function<QRegion()> m_covered = [] { return QRegion(); };
     QImage m_frame;
     QRegion m_drawn;

@@ -115,7 +115,12 @@ void PopUpButton::paintEvent(QPaintEvent*)
     painter.setFont(font());
     const QRect label = labelRect();
     painter.drawText(label, Qt::AlignVCenter | Qt::AlignLeft,
-                     fontMetrics().elidedText(currentText(), Qt::ElideMiddle, label.width()));
+                     fontMetrics().elidedText(shownText(), Qt::ElideMiddle, label.width()));
+}
+
+QString PopUpButton::shownText() const
+{
+    return currentIndex() < 0 ? placeholderText() : currentText();
 }
 
 QRect PopUpButton::labelRect() const
@@ -126,8 +131,8 @@ QRect PopUpButton::labelRect() const
 bool PopUpButton::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip)
-        setToolTip(fontMetrics().horizontalAdvance(currentText()) > labelRect().width() ? currentText()
-                                                                                        : QString());
+        setToolTip(fontMetrics().horizontalAdvance(shownText()) > labelRect().width() ? shownText()
+                                                                                      : QString());
     return QComboBox::event(event);
 }
 

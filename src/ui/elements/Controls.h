@@ -39,6 +39,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    QString shownText() const;
     QRect labelRect() const;
 };
 

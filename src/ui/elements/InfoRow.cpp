@@ -18,6 +18,10 @@ class ValueLabel final : public TextLabel
 {
 public:
     using TextLabel::TextLabel;
+    // The toolkit asks the lines as they are drawn, and lays them out, and draws them, anew.
+    QSize sizeHint() const override { return sizeForWidth(QWIDGETSIZE_MAX); }
+    QSize minimumSizeHint() const override { return {sizeForWidth(0).width(), sizeHint().height()}; }
+    int heightForWidth(int width) const override { return sizeForWidth(width).height(); }
 
 protected:
     void focusInEvent(QFocusEvent* event) override
@@ -43,6 +47,11 @@ protected:
     }
 
 private:
+    QSize sizeForWidth(int width) const
+    {
+        const QRect page(0, 0, width, QWIDGETSIZE_MAX);
+        return fontMetrics().boundingRect(page, Qt::TextWordWrap, text()).size();
+    }
     void selectAll() { setSelection(0, static_cast<int>(text().size())); }
     void copy() const { QGuiApplication::clipboard()->setText(hasSelectedText() ? selectedText() : text()); }
 };

@@ -8,44 +8,58 @@
 
 #include <QSignalBlocker>
 
-#include <algorithm>
-
 namespace ardeo
 {
 
 namespace
 {
 
+/// What the picker shows; the placeholder is shown where nothing of the list is selected.
+struct Choices {
+    QStringList labels;
+    int selected = -1;
+    QString placeholder;
+    bool operator==(const Choices&) const = default;
+};
+
+Choices choicesOf(const MainViewModel& vm)
+{
+    Choices choices;
+    const std::optional<AdapterInfo> selected = vm.selectedAdapter.value();
+    if (vm.selectedIsGone.value() && selected)
+        choices.placeholder = selected->serviceName + QStringLiteral(" (removed)");
+    for (const AdapterInfo& adapter : vm.adapters.value()) {
+        if (choices.selected < 0 && selected && adapter.serviceName == selected->serviceName)
+            choices.selected = static_cast<int>(choices.labels.size());
+        choices.labels.append(pickerLabel(adapter));
+    }
+    return choices;
+}
+
 QWidget* makePicker(MainViewModel& vm)
 {
     auto* frame = new QWidget;
     auto* picker = new PopUpButton;
-    picker->setAccessibleName(QStringLiteral("Select Adapter"));
     picker->setAccessibleDescription(QStringLiteral("Select Adapter"));
     columnIn(frame, 0, {8, 0, 8, 0})->addWidget(picker);
-    struct Choice {
-        QList<AdapterInfo> adapters;
-        std::optional<AdapterInfo> selected;
-    };
     bind(
-        picker,
-        [&vm] {
-            return Choice{vm.adapters.value(), vm.selectedAdapter.value()};
-        },
-        [picker](const Choice& choice) {
+        picker, [&vm] { return choicesOf(vm); },
+        [picker](const Choices& choices) {
             const QSignalBlocker silent(picker);
-            picker->clear();
-            for (const AdapterInfo& adapter : choice.adapters) {
-                picker->addItem(pickerLabel(adapter));
-                picker->setItemData(picker->count() - 1, pickerLabel(adapter), Qt::ToolTipRole);
+            // Label by label, since the list may be open.
+            while (picker->count() > choices.labels.size())
+                picker->removeItem(picker->count() - 1);
+            for (int i = 0; i < choices.labels.size(); ++i) {
+                const QString& label = choices.labels.at(i);
+                if (i == picker->count())
+                    picker->addItem(label);
+                picker->setItemText(i, label);
+                picker->setItemData(i, label, Qt::ToolTipRole);
             }
-            const auto selected = choice.selected
-                                      ? std::ranges::find(choice.adapters, choice.selected->serviceName,
-                                                          &AdapterInfo::serviceName)
-                                      : choice.adapters.end();
-            picker->setCurrentIndex(selected == choice.adapters.end()
-                                        ? -1
-                                        : static_cast<int>(selected - choice.adapters.begin()));
+            picker->setPlaceholderText(choices.placeholder);
+            picker->setAccessibleName(choices.placeholder.isEmpty() ? QStringLiteral("Select Adapter")
+                                                                    : choices.placeholder);
+            picker->setCurrentIndex(choices.selected);
         });
     QObject::connect(picker, &QComboBox::activated, picker, [&vm](int index) {
         const QList<AdapterInfo> adapters = vm.adapters.value();

@@ -2,6 +2,7 @@
 
 #include "ui/elements/Stack.h"
 #include "ui/elements/Style.h"
+#include "ui/elements/Visibility.h"
 #include "ui/panels/LeftPanel.h"
 #include "ui/panels/RightPanel.h"
 
@@ -67,6 +68,9 @@ ContentView::ContentView(MainViewModel& model, Clock& clock, NotificationCenter&
     columns->setStretchFactor(1, 1);
     columns->setSizes({sidebarIdeal, 10'000});
     columnIn(this, 0)->addWidget(columns);
+    auto* visibility = new Visibility(this);
+    connect(visibility, &Visibility::changed, this,
+            [this, visibility] { vm.follow(this, visibility->isSeen()); });
     connect(&notifications, &NotificationCenter::posted, this,
             [openWindow = std::move(openWindow)](const QString& name) {
                 if (name == openHelpNotification)

@@ -63,6 +63,9 @@ public:
     /// Starts what will end on this loop, and returns at once.
     void start(const std::function<void()>& begin);
 
+    /// Has the condition of runUntil looked at again. May be called from any thread.
+    void wake() { g_main_context_wakeup(m_context); }
+
     /// Handles what arrives until the condition holds; false when the deadline comes first.
     bool runUntil(QDeadlineTimer deadline, const std::function<bool()>& condition);
 

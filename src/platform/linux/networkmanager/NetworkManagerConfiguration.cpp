@@ -10,7 +10,7 @@ std::shared_ptr<NetworkManagerSession> NetworkManagerConfiguration::session()
 {
     auto session = m_session.lock();
     if (!session) {
-        session = std::make_shared<NetworkManagerSession>(m_bus, m_kept, m_presence);
+        session = std::make_shared<NetworkManagerSession>(m_view);
         m_session = session;
     }
     return session;
@@ -35,6 +35,39 @@ NetworkManagerConfiguration::createPreferencesWithAuthorization(const QString& /
     if (m_status != SystemStatus::ok)
         return nullptr;
     return std::make_unique<NetworkManagerPreferences>(std::move(current), m_status, true, waitingObserver());
+}
+
+void NetworkManagerConfiguration::rest()
+{
+    m_view.signals.reset();
+    m_view.dropClient();
+}
+
+bool NetworkManagerConfiguration::awaitChange()
+{
+    std::unique_ptr<ChangeSignals>& signals = m_view.signals;
+    if (!signals || signals->isOver()) {
+        signals.reset();
+        const QDeadlineTimer deadline(NetworkManagerSession::operationMilliseconds);
+        if (GDBusConnection* bus = m_view.bus.connection(m_view.loop, deadline)) {
+            signals = std::make_unique<ChangeSignals>(m_view.loop, bus);
+            return true;
+        }
+    }
+    const auto isInterrupted = [this] { return m_isInterrupted.load(); };
+    m_view.loop.runUntil(QDeadlineTimer(QDeadlineTimer::Forever),
+                         [&] { return isInterrupted() || (signals && signals->hasChanged()); });
+    m_view.loop.runUntil(QDeadlineTimer(changeInterval), isInterrupted);
+    if (m_isInterrupted.exchange(false))
+        return false;
+    signals->clear();
+    return true;
+}
+
+void NetworkManagerConfiguration::interrupt()
+{
+    m_isInterrupted = true;
+    m_view.loop.wake();
 }
 
 std::unique_ptr<DynamicStore> NetworkManagerConfiguration::createDynamicStore(const QString& /*name*/)

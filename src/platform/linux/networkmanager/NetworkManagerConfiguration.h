@@ -15,20 +15,21 @@ public:
     std::unique_ptr<Preferences> createPreferencesWithAuthorization(const QString& name,
                                                                     AuthorizationRef authorization) override;
     std::unique_ptr<DynamicStore> createDynamicStore(const QString& name) override;
-    void rest() override { m_kept.reset(); }
+    void rest() override;
+    bool awaitChange() override;
+    void interrupt() override;
     qint32 error() const override { return static_cast<qint32>(m_status); }
 
     /// How the daemon was found the last time. May be called from any thread.
-    DaemonPresence presence() const { return m_presence; }
+    DaemonPresence presence() const { return m_view.presence; }
 
 private:
     /// Handles that live at the same time belong to one operation and share its snapshot.
     std::shared_ptr<NetworkManagerSession> session();
 
-    SystemBus m_bus;
-    std::unique_ptr<DaemonView> m_kept;
+    DaemonView m_view;
     std::weak_ptr<NetworkManagerSession> m_session;
-    std::atomic<DaemonPresence> m_presence = DaemonPresence::answers;
+    std::atomic<bool> m_isInterrupted = false;
     SystemStatus m_status = SystemStatus::ok;
 };
 

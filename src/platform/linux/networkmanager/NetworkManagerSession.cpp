@@ -24,7 +24,7 @@ bool answers(GLibLoop& loop, QDeadlineTimer deadline, GDBusConnection* bus, cons
 
 } // namespace
 
-DaemonView::~DaemonView()
+void DaemonView::dropClient()
 {
     if (!client)
         return;
@@ -39,41 +39,28 @@ DaemonView::~DaemonView()
     g_weak_ref_clear(&busy);
 }
 
-NetworkManagerSession::NetworkManagerSession(SystemBus& bus, std::unique_ptr<DaemonView>& kept,
-                                             std::atomic<DaemonPresence>& presence)
-    : m_bus(bus)
-    , m_kept(kept)
-    , m_presence(presence)
+NetworkManagerSession::NetworkManagerSession(DaemonView& view)
+    : m_view(view)
     , m_deadline(operationMilliseconds)
-    , m_view(std::move(kept))
 {
-    if (!m_view)
-        m_view = std::make_unique<DaemonView>();
-}
-
-NetworkManagerSession::~NetworkManagerSession()
-{
-    if (m_view->client)
-        m_kept = std::move(m_view);
 }
 
 NMClient* NetworkManagerSession::client()
 {
     if (std::exchange(m_asked, true))
-        return m_view->client.get();
-    return m_view->client && catchUp() ? m_view->client.get() : connect();
+        return m_view.client.get();
+    return m_view.client && catchUp() ? m_view.client.get() : connect();
 }
 
-/// The daemon answers in turn: what it told before comes before its
-/// answer. What is new makes the client ask for more, so that a second answer is waited for. False when the
-/// daemon is another one now, or none.
+/// The daemon answers in turn: what it told before comes before its answer. What is new makes the client ask
+/// for more, so that a second answer is waited for. False when the daemon is another one now, or none.
 bool NetworkManagerSession::catchUp()
 {
-    NMClient* const client = m_view->client.get();
+    NMClient* const client = m_view.client.get();
     GDBusConnection* const bus = nm_client_get_dbus_connection(client);
     const QByteArray daemon(nm_client_get_dbus_name_owner(client));
     for (int answer = 0; answer < 2; ++answer) {
-        if (daemon.isEmpty() || !answers(m_view->loop, m_deadline, bus, daemon.constData()))
+        if (daemon.isEmpty() || !answers(m_view.loop, m_deadline, bus, daemon.constData()))
             return false;
     }
     return nm_client_get_nm_running(client) != FALSE;
@@ -81,14 +68,14 @@ bool NetworkManagerSession::catchUp()
 
 NMClient* NetworkManagerSession::connect()
 {
-    m_view = std::make_unique<DaemonView>();
-    GDBusConnection* const bus = m_bus.connection(m_deadline);
+    m_view.dropClient();
+    GDBusConnection* const bus = m_view.bus.connection(m_view.loop, m_deadline);
     if (!bus) {
         // A bus that is stopped lets everybody wait.
-        m_presence = m_deadline.hasExpired() ? DaemonPresence::silent : DaemonPresence::absent;
+        m_view.presence = m_deadline.hasExpired() ? DaemonPresence::silent : DaemonPresence::absent;
         return nullptr;
     }
-    auto result = m_view->loop.call(
+    auto result = m_view.loop.call(
         m_deadline, [bus](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
             // The permissions of this process are not asked for: that is polkit's to tell, and only when
             // needed.
@@ -96,14 +83,14 @@ NMClient* NetworkManagerSession::connect()
                                        NM_CLIENT_DBUS_CONNECTION, bus, NM_CLIENT_INSTANCE_FLAGS,
                                        NM_CLIENT_INSTANCE_FLAGS_NO_AUTO_FETCH_PERMISSIONS, nullptr);
         });
-    m_view->client.reset(nm_client_new_finish(result.get(), nullptr));
+    m_view.client.reset(nm_client_new_finish(result.get(), nullptr));
     result.reset(); // it holds on to the client, too
-    if (m_view->client && nm_client_get_nm_running(m_view->client.get())) {
-        m_presence = DaemonPresence::answers;
-        return m_view->client.get();
+    if (m_view.client && nm_client_get_nm_running(m_view.client.get())) {
+        m_view.presence = DaemonPresence::answers;
+        return m_view.client.get();
     }
-    m_presence = m_view->client ? DaemonPresence::absent : DaemonPresence::silent;
-    m_view = std::make_unique<DaemonView>();
+    m_view.presence = m_view.client ? DaemonPresence::absent : DaemonPresence::silent;
+    m_view.dropClient();
     return nullptr;
 }
 
@@ -116,9 +103,9 @@ NMClient* NetworkManagerSession::reconnect()
 GVariantRef NetworkManagerSession::ask(const char* method, GVariant* arguments, const char* replyType,
                                        GLibError& error)
 {
-    GDBusConnection* const bus = nm_client_get_dbus_connection(m_view->client.get());
-    const auto ended = m_view->loop.call(
-        m_deadline, [=](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+    GDBusConnection* const bus = nm_client_get_dbus_connection(m_view.client.get());
+    const auto ended =
+        m_view.loop.call(m_deadline, [=](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
             g_dbus_connection_call(bus, NM_DBUS_SERVICE, NM_DBUS_PATH, NM_DBUS_INTERFACE, method, arguments,
                                    replyType ? G_VARIANT_TYPE(replyType) : nullptr,
                                    G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, cancellable, done, data);

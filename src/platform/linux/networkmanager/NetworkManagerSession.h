@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/SystemConfiguration.h"
+#include "platform/linux/networkmanager/ChangeSignals.h"
 #include "platform/linux/networkmanager/GLibLoop.h"
 #include "platform/linux/networkmanager/LibNM.h"
 #include "platform/linux/networkmanager/SystemBus.h"
@@ -13,15 +14,23 @@ namespace ardeo
 /// How NetworkManager was found the last time.
 enum class DaemonPresence { answers, absent, silent };
 
-/// What the daemon tells, and the loop on which it is told.
+/// What is kept of NetworkManager from one operation to the next. Used by one operation at a time.
 struct DaemonView {
     DaemonView() = default;
     DaemonView(const DaemonView&) = delete;
     DaemonView& operator=(const DaemonView&) = delete;
-    ~DaemonView();
+    ~DaemonView() { dropClient(); }
+    void dropClient();
 
+    /// Where all is told; may be woken from any thread.
     GLibLoop loop;
+    SystemBus bus;
+    /// What the daemon has told, as of the last catching up; null when there is none.
     GRef<NMClient> client;
+    /// Null as long as nobody waits for changes.
+    std::unique_ptr<ChangeSignals> signals;
+    /// May be read from any thread.
+    std::atomic<DaemonPresence> presence = DaemonPresence::answers;
 };
 
 /// One operation's view of NetworkManager: a consistent snapshot of what it knows, and the one deadline for
@@ -32,14 +41,9 @@ public:
     /// The time of one operation.
     static constexpr int operationMilliseconds = 10'000;
 
-    /// What it finds out about the daemon's presence is stored in presence.
-    /// A view that an earlier operation has left in kept saves making a new one; the session leaves its own
-    /// there.
-    NetworkManagerSession(SystemBus& bus, std::unique_ptr<DaemonView>& kept,
-                          std::atomic<DaemonPresence>& presence);
+    explicit NetworkManagerSession(DaemonView& view);
     NetworkManagerSession(const NetworkManagerSession&) = delete;
     NetworkManagerSession& operator=(const NetworkManagerSession&) = delete;
-    ~NetworkManagerSession();
 
     /// The daemon's objects; null when it is not there or does not answer in time. Asks once.
     NMClient* client();
@@ -51,7 +55,7 @@ public:
     /// Whether the daemon still answers, and has told all that happened before.
     bool catchUp();
 
-    GLibLoop& loop() { return m_view->loop; }
+    GLibLoop& loop() { return m_view.loop; }
     QDeadlineTimer deadline() const { return m_deadline; }
     /// Lets the operation take that much longer, in milliseconds: it had to wait for somebody else.
     void extendDeadline(qint64 milliseconds) { m_deadline += milliseconds; }
@@ -61,11 +65,8 @@ public:
 private:
     NMClient* connect();
 
-    SystemBus& m_bus;
-    std::unique_ptr<DaemonView>& m_kept;
-    std::atomic<DaemonPresence>& m_presence;
+    DaemonView& m_view;
     QDeadlineTimer m_deadline;
-    std::unique_ptr<DaemonView> m_view;
     bool m_asked = false;
 };
 

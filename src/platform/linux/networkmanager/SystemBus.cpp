@@ -3,7 +3,7 @@
 namespace ardeo
 {
 
-GDBusConnection* SystemBus::connection(QDeadlineTimer deadline)
+GDBusConnection* SystemBus::connection(GLibLoop& loop, QDeadlineTimer deadline)
 {
     if (m_connection && !g_dbus_connection_is_closed(m_connection.get()))
         return m_connection.get();
@@ -15,7 +15,7 @@ GDBusConnection* SystemBus::connection(QDeadlineTimer deadline)
     constexpr auto flags = static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
                                                              G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
     const auto ended =
-        m_loop.call(deadline, [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+        loop.call(deadline, [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
             g_dbus_connection_new_for_address(address.get(), flags, nullptr, cancellable, done, data);
         });
     m_connection.reset(g_dbus_connection_new_for_address_finish(ended.get(), nullptr));

@@ -11,10 +11,9 @@ class SystemBus
 {
 public:
     /// The open connection; null when there is none in time. One that was lost is made anew.
-    GDBusConnection* connection(QDeadlineTimer deadline);
+    GDBusConnection* connection(GLibLoop& loop, QDeadlineTimer deadline);
 
 private:
-    GLibLoop m_loop;
     GRef<GDBusConnection> m_connection;
 };
 

@@ -14,15 +14,15 @@ namespace ardeo
 namespace
 {
 
-std::optional<QString> troubleOf(DaemonPresence presence)
+std::optional<Trouble> troubleOf(DaemonPresence presence)
 {
     switch (presence) {
     case DaemonPresence::answers:
         return std::nullopt;
     case DaemonPresence::absent:
-        return QStringLiteral("NetworkManager is not running.");
+        return Trouble{Trouble::Kind::absent, QStringLiteral("NetworkManager is not running.")};
     case DaemonPresence::silent:
-        return QStringLiteral("NetworkManager does not answer.");
+        return Trouble{Trouble::Kind::silent, QStringLiteral("NetworkManager does not answer.")};
     }
     return std::nullopt;
 }

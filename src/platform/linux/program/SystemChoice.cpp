@@ -11,10 +11,11 @@ namespace
 {
 
 /// The trouble as it is told to somebody who let us choose the system.
-std::optional<QString> withAdvice(std::optional<QString> trouble)
+std::optional<Trouble> withAdvice(std::optional<Trouble> trouble)
 {
-    if (trouble == QStringLiteral("NetworkManager is not running."))
-        return QStringLiteral("NetworkManager is not running; --system=simulated works without it.");
+    if (trouble && trouble->kind == Trouble::Kind::absent)
+        trouble->sentence =
+            QStringLiteral("NetworkManager is not running; --system=simulated works without it.");
     return trouble;
 }
 
