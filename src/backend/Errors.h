@@ -68,9 +68,11 @@ public:
         error.m_fault = std::move(fault);
         return error;
     }
-    static ConfigError applyFailed(qint32 code)
+    static ConfigError applyFailed(qint32 code, std::optional<SettingFault> fault = {})
     {
-        return {Case::applyFailed, QStringLiteral("Cannot apply changes (SC %1).").arg(code)};
+        ConfigError error{Case::applyFailed, QStringLiteral("Cannot apply changes (SC %1).").arg(code)};
+        error.m_fault = std::move(fault);
+        return error;
     }
     static ConfigError preferencesUnavailable()
     {
@@ -78,7 +80,7 @@ public:
     }
 
     Case errorCase() const { return m_case; }
-    /// Which value was refused and why, where that is the reason.
+    /// Which value was refused and why, or what else the system said.
     const std::optional<SettingFault>& fault() const { return m_fault; }
 
 private:

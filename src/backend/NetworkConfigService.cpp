@@ -29,6 +29,13 @@ std::shared_ptr<NetworkService> findService(const Text& name, Preferences& prefe
     return service;
 }
 
+/// What the system itself said of its last refusal.
+std::optional<SettingFault> refusalOf(const SystemConfiguration& system)
+{
+    const QString reason = system.errorReason();
+    return reason.isEmpty() ? std::nullopt : std::optional(SettingFault{.value = {}, .reason = reason});
+}
+
 /// Unlocks the preferences on every way out of a transaction.
 class HeldLock
 {
@@ -42,11 +49,11 @@ private:
     Preferences& m_preferences;
 };
 
-/// The authorized, locked transaction around a change of one service. Where its settings are refused, faultIn
-/// says what is wrong with them.
-template <typename Change, typename FaultIn>
+/// The authorized, locked transaction around a change of one service. Where its settings are refused,
+/// faultFor says what is wrong with them.
+template <typename Change, typename FaultFor>
 void changeService(SystemConfiguration& system, const Text& name, AuthorizationRef authorization,
-                   Change change, FaultIn faultIn)
+                   Change change, FaultFor faultFor)
 {
     const auto preferences = system.createPreferencesWithAuthorization(clientName, authorization);
     if (!preferences)
@@ -54,13 +61,14 @@ void changeService(SystemConfiguration& system, const Text& name, AuthorizationR
     if (!preferences->lock(true))
         throw ConfigError::lockFailed(system.error());
     const HeldLock lock(*preferences);
-    change(*findService(name, *preferences));
+    const auto service = findService(name, *preferences);
+    change(*service);
     if (!preferences->commitChanges()) {
         const bool isInvalid = system.error() == static_cast<qint32>(SystemStatus::invalidArgument);
-        throw ConfigError::commitFailed(system.error(), isInvalid ? faultIn() : std::nullopt);
+        throw ConfigError::commitFailed(system.error(), isInvalid ? faultFor(*service) : refusalOf(system));
     }
     if (!preferences->applyChanges())
-        throw ConfigError::applyFailed(system.error());
+        throw ConfigError::applyFailed(system.error(), refusalOf(system));
 }
 
 } // namespace
@@ -166,7 +174,7 @@ QFuture<void> NetworkConfigService::writeConfiguration(const Text& serviceName,
         changeService(
             m_system, serviceName, authorization,
             [&](const NetworkService& service) { writeTo(service, configuration, named); },
-            [&] { return faultOf(configuration, named); });
+            [&](const NetworkService& service) { return faultFor(service, configuration, named); });
     });
 }
 
@@ -176,7 +184,8 @@ QFuture<void> NetworkConfigService::setServiceEnabled(bool enabled, const Text& 
     return run([this, enabled, serviceName, authorization](Opened&) {
         changeService(
             m_system, serviceName, authorization,
-            [enabled](NetworkService& service) { service.setEnabled(enabled); }, [] { return std::nullopt; });
+            [enabled](NetworkService& service) { service.setEnabled(enabled); },
+            [](const NetworkService&) { return std::nullopt; });
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "backend/Errors.h"
 #include "platform/ConfigurationKeys.h"
+#include "platform/ServiceChanges.h"
 
 namespace ardeo
 {
@@ -78,26 +79,31 @@ void writeTo(const NetworkService& service, const NetworkAdapterInfo& configurat
     const auto ipv4 = service.protocol(ipv4Type);
     if (!ipv4)
         throw ConfigError::protocolUnavailable(ipv4Type);
-    if (named)
-        ipv4->changeConfiguration(ipv4Changes(configuration, *named));
-    else
-        ipv4->setConfiguration(ipv4Dictionary(configuration));
     const auto dns = service.protocol(dnsType);
-    if (!dns)
+    if (!named) {
+        ipv4->setConfiguration(ipv4Dictionary(configuration));
+        if (dns)
+            dns->setConfiguration(dnsDictionary(configuration));
         return;
-    if (!named)
-        dns->setConfiguration(dnsDictionary(configuration));
-    else if (const Dictionary changes = dnsChanges(configuration, *named); !changes.isEmpty())
+    }
+    if (const Dictionary changes = ipv4Changes(configuration, *named); !changes.isEmpty())
+        ipv4->changeConfiguration(changes);
+    if (const Dictionary changes = dnsChanges(configuration, *named); dns && !changes.isEmpty())
         dns->changeConfiguration(changes);
 }
 
-std::optional<SettingFault> faultOf(const NetworkAdapterInfo& configuration, std::optional<Settings> named)
+std::optional<SettingFault> faultFor(const NetworkService& service, const NetworkAdapterInfo& configuration,
+                                     std::optional<Settings> named)
 {
-    const bool hasIPv4 = !named || !ipv4Changes(configuration, *named).isEmpty();
-    const bool hasDNS = !named || !dnsChanges(configuration, *named).isEmpty();
-    auto fault = hasIPv4 ? checkedIPv4(ipv4Dictionary(configuration)).fault() : std::nullopt;
-    if (!fault && hasDNS)
-        fault = checkedDNS(dnsDictionary(configuration)).fault();
+    const auto ipv4 = service.protocol(ipv4Type);
+    const Dictionary present = ipv4 ? ipv4->configuration().value_or(QVariant()).toMap() : Dictionary();
+    auto fault = named ? checkedIPv4Changes(present, ipv4Changes(configuration, *named)).fault()
+                       : checkedIPv4(ipv4Dictionary(configuration)).fault();
+    const Dictionary dns = named ? dnsChanges(configuration, *named) : dnsDictionary(configuration);
+    if (!fault)
+        fault = checkedDNS(dns).fault();
+    if (!fault && dns.value(serverAddressesKey).isValid())
+        fault = faultOfServersBeside(present.value(configMethodKey).toString());
     return fault;
 }
 

@@ -26,7 +26,8 @@ Q_DECLARE_FLAGS(Settings, Setting)
 void writeTo(const NetworkService& service, const NetworkAdapterInfo& configuration,
              std::optional<Settings> named);
 
-/// What no system can take in the part of the configuration that is named, or in all of it.
-std::optional<SettingFault> faultOf(const NetworkAdapterInfo& configuration, std::optional<Settings> named);
+/// What the service cannot take of the configuration, or of the part of it that is named.
+std::optional<SettingFault> faultFor(const NetworkService& service, const NetworkAdapterInfo& configuration,
+                                     std::optional<Settings> named);
 
 } // namespace ardeo

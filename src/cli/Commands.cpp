@@ -21,14 +21,16 @@ struct Failure {
     Outcome outcome;
 };
 
-[[noreturn]] void fail(const QString& error)
+/// The reason, where there is one, is a line of its own.
+[[noreturn]] void fail(const QString& error, const QString& reason = {}, int status = 1)
 {
-    throw Failure{{.status = 1, .output = {}, .error = error, .changed = false, .remains = {}}};
+    const QString text = reason.isEmpty() ? printable(error) : printable(error) + u'\n' + printable(reason);
+    throw Failure{{.status = status, .output = {}, .error = text, .changed = false, .remains = {}}};
 }
 
 [[noreturn]] void failUsage(const QString& error)
 {
-    throw Failure{{.status = 2, .output = {}, .error = error, .changed = false, .remains = {}}};
+    fail(error, {}, 2);
 }
 
 /// One command on its way through the model.
@@ -182,8 +184,7 @@ private:
         }
         if (m_arguments.router) {
             if (m_model->ipv4Mode.value() == IPv4Mode::dhcp)
-                failUsage(
-                    QStringLiteral("--router needs --address and --mask: with DHCP the network says it."));
+                failUsage(QStringLiteral("--router needs --address and --mask."));
             m_model->router = *m_arguments.router;
             named |= Setting::router;
         }
@@ -195,7 +196,7 @@ private:
         QCoro::waitFor(action);
         if (const auto error = m_model->applyError.value()) {
             const auto fault = m_model->applyFault.value();
-            fail(fault ? error->string() + u'\n' + fault->reason : error->string());
+            fail(*error, fault ? fault->reason : QString());
         }
         throwTrouble();
         return shown();

@@ -32,16 +32,6 @@ int displayWidth(const QString& text)
     return width;
 }
 
-/// The text without characters that would steer the terminal.
-QString printable(QString text)
-{
-    for (QChar& c : text) {
-        if (c.category() == QChar::Other_Control)
-            c = u'?';
-    }
-    return text;
-}
-
 QString tinted(const QString& text, Tint tint, bool colour)
 {
     static constexpr std::array codes{"", "\033[1m", "\033[2m", "\033[32m"};
@@ -113,6 +103,15 @@ QByteArray printed(const Json& json)
 }
 
 } // namespace
+
+QString printable(QString text)
+{
+    for (QChar& c : text) {
+        if (c.category() == QChar::Other_Control)
+            c = u'?';
+    }
+    return text;
+}
 
 QString adaptersAsTable(const QList<AdapterInfo>& adapters, bool colour)
 {

@@ -7,6 +7,9 @@
 namespace ardeo
 {
 
+/// The text without characters that would steer the terminal, line breaks among them.
+QString printable(QString text);
+
 // What the commands print, each ending in a line break. Colour is for terminals.
 
 QString adaptersAsTable(const QList<AdapterInfo>& adapters, bool colour);
@@ -14,7 +17,7 @@ QString configurationAsTable(const AdapterInfo& adapter, const NetworkAdapterInf
                              bool colour);
 QString presetsAsTable(const QList<NetworkPreset>& presets, bool colour);
 
-/// An array of objects with the field names of AdapterInfo.
+/// An array of objects with the field names of AdapterInfo, but for what only the program needs to know.
 QByteArray adaptersAsJson(const QList<AdapterInfo>& adapters);
 /// An object with the field names of NetworkAdapterInfo.
 QByteArray configurationAsJson(const NetworkAdapterInfo& configuration);

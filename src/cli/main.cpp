@@ -1,5 +1,6 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
+#include "cli/Output.h"
 #include "platform/linux/program/SystemChoice.h"
 
 #include <QCoreApplication>
@@ -31,7 +32,8 @@ Outcome outcomeOf(const QStringList& commandLine, bool colour, std::optional<Pla
 {
     const auto parsed = parseArguments(commandLine);
     if (const auto* wrong = std::get_if<UsageError>(&parsed))
-        return {.status = 2, .output = {}, .error = wrong->message, .changed = false, .remains = {}};
+        return {
+            .status = 2, .output = {}, .error = printable(wrong->message), .changed = false, .remains = {}};
     const auto& arguments = std::get<Arguments>(parsed);
     if (arguments.command == Arguments::Command::help)
         return {.status = 0, .output = helpText().toUtf8(), .error = {}, .changed = false, .remains = {}};

@@ -72,10 +72,10 @@ std::shared_ptr<MainViewModel> MainViewModel::create(Platform& platform)
 
 MainViewModel::MainViewModel(Key, Platform& platform)
     : isLoginItem(platform.loginItem->status() == LoginItem::Status::enabled)
-    , m_platform(platform)
     , configService(*platform.systemConfiguration)
     , authService(*platform.authorization)
     , presetStore(*platform.userDefaults)
+    , m_platform(platform)
 {
     const auto connect = [this](auto signal, auto slot) {
         QObject::connect(&configService, signal, &configService, slot, Qt::QueuedConnection);
@@ -233,8 +233,8 @@ bool MainViewModel::isEdited() const
            searchDomains.value() != Text(joinDomains(live.searchDomains));
 }
 
-template <typename Settings>
-void MainViewModel::fillForm(const Settings& settings, const Text& domains)
+template <typename Source>
+void MainViewModel::fillForm(const Source& settings, const Text& domains)
 {
     ipv4Mode = settings.ipv4Mode;
     ipAddress = settings.ipAddress;
@@ -291,10 +291,7 @@ QCoro::Task<> MainViewModel::write(NetworkAdapterInfo configuration, std::option
                                                        AuthorizationRef authorization) {
         return configService.writeConfiguration(serviceName, configuration, authorization, named);
     };
-    if (co_await carryOut(change, applyDelay)) {
-        applySuccess = true;
-        isApplying = false;
-    }
+    co_await carryOut(change, applyDelay, true);
     // After a failure it is set only if another action has succeeded in between.
     if (applySuccess.value())
         scheduleFollowUpRefresh();
@@ -306,8 +303,7 @@ QCoro::Task<> MainViewModel::setAdapterEnabled(bool enabled)
     const Change change = [this, enabled](const Text& serviceName, AuthorizationRef authorization) {
         return configService.setServiceEnabled(enabled, serviceName, authorization);
     };
-    if (co_await carryOut(change, enableDelay))
-        isApplying = false;
+    co_await carryOut(change, enableDelay, false);
 }
 
 void MainViewModel::clearFeedback()
@@ -323,14 +319,15 @@ void MainViewModel::tellError(const QString& sentence, const std::optional<Setti
     applyError = Text(sentence);
 }
 
-/// Obtains the right, makes the change, and refreshes when the network has had time to settle. False when
-/// that failed, which applyError says, and where no service is selected.
-QCoro::Task<bool> MainViewModel::carryOut(Change change, std::chrono::milliseconds settlingTime)
+/// Obtains the right, makes the change of the selected service, and refreshes when the network has had time
+/// to settle.
+QCoro::Task<> MainViewModel::carryOut(Change change, std::chrono::milliseconds settlingTime,
+                                      bool tellsSuccess)
 {
     const auto self = shared_from_this();
     const std::optional<AdapterInfo> adapter = selectedAdapter.value();
     if (!adapter)
-        co_return false;
+        co_return;
     isApplying = true;
     clearFeedback();
     try {
@@ -341,11 +338,13 @@ QCoro::Task<bool> MainViewModel::carryOut(Change change, std::chrono::millisecon
         tellError(error.errorDescription(), refusal ? refusal->fault() : std::nullopt);
         authService.invalidate();
         isApplying = false;
-        co_return false;
+        co_return;
     }
     co_await m_platform.clock->sleep(settlingTime);
     co_await refreshAdapters();
-    co_return true;
+    if (tellsSuccess)
+        applySuccess = true;
+    isApplying = false;
 }
 
 QCoro::Task<> MainViewModel::scheduleFollowUpRefresh()
@@ -359,10 +358,11 @@ QCoro::Task<> MainViewModel::scheduleFollowUpRefresh()
 QCoro::Task<> MainViewModel::noteWaiting(std::optional<LockHolder> holder)
 {
     const auto self = shared_from_this();
-    m_lockHolder = holder;
+    const int number = ++m_waits;
     if (holder)
         co_await m_platform.clock->sleep(waitingDelay);
-    waitsFor = m_lockHolder;
+    if (number == m_waits)
+        waitsFor = holder;
 }
 
 void MainViewModel::savePreset(const Text& name)

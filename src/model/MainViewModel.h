@@ -57,7 +57,7 @@ public:
     Observed<bool> isApplying{false};
     /// The last failed action's sentence for the user.
     Observed<std::optional<Text>> applyError;
-    /// Which value of it was refused and why, where that is what it failed for.
+    /// Which value of it was refused and why, or what else the system said.
     Observed<std::optional<SettingFault>> applyFault;
     Observed<bool> applySuccess{false};
     /// The program that keeps the running action waiting, once it has done so for half a second.
@@ -105,10 +105,6 @@ public:
     /// Has the program start when the user logs in, or no longer.
     void toggleLoginItem();
 
-private:
-    Platform& m_platform;
-
-public:
     NetworkConfigService configService;
     AuthorizationService authService;
     NetworkPresetStore presetStore;
@@ -117,13 +113,13 @@ private:
     /// Starts a change of the service with the consent.
     using Change = std::function<QFuture<void>(const Text& serviceName, AuthorizationRef authorization)>;
 
-    template <typename Settings>
-    void fillForm(const Settings& settings, const Text& domains);
+    template <typename Source>
+    void fillForm(const Source& settings, const Text& domains);
     QCoro::Task<> write(NetworkAdapterInfo configuration, std::optional<Settings> named);
     void takeListed(const QList<AdapterInfo>& listed);
     void clearFeedback();
     void tellError(const QString& sentence, const std::optional<SettingFault>& fault = {});
-    QCoro::Task<bool> carryOut(Change change, std::chrono::milliseconds settlingTime);
+    QCoro::Task<> carryOut(Change change, std::chrono::milliseconds settlingTime, bool tellsSuccess);
     QCoro::Task<> scheduleFollowUpRefresh();
     QCoro::Task<> noteWaiting(std::optional<LockHolder> holder);
     QCoro::Task<> noteChange();
@@ -131,7 +127,9 @@ private:
     bool isBusy() const { return isLoading.value() || isApplying.value(); }
     bool isEdited() const;
 
-    std::optional<LockHolder> m_lockHolder;
+    Platform& m_platform;
+    /// How often somebody has begun or ended to be waited for.
+    int m_waits = 0;
     QSet<const QObject*> m_viewers;
     bool m_hasChanged = false;
     bool m_isReadingAgain = false;

@@ -8,6 +8,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
+#if __has_include(<sys/sysmacros.h>) // elsewhere it is among the types
+#include <sys/sysmacros.h>
+#endif
 
 namespace ardeo
 {
@@ -34,11 +37,15 @@ LockHolder holderOf(int file)
     QFile table(QStringLiteral("/proc/locks"));
     if (fstat(file, &place) != 0 || !table.open(QIODevice::ReadOnly))
         return {};
-    const QByteArray inode = ':' + QByteArray::number(quint64(place.st_ino));
+    const auto hexadecimal = [](unsigned number) {
+        return QByteArray::number(number, 16).rightJustified(2, '0');
+    };
+    const QByteArray ours = hexadecimal(major(place.st_dev)) + ':' + hexadecimal(minor(place.st_dev)) + ':' +
+                            QByteArray::number(quint64(place.st_ino));
     const QList<QByteArray> lines = table.readAll().split('\n');
     for (const QByteArray& line : lines) {
         const QList<QByteArray> words = line.simplified().split(' ');
-        if (words.size() < 6 || words[1] != "FLOCK" || !words[5].endsWith(inode))
+        if (words.size() < 6 || words[1] != "FLOCK" || words[5] != ours)
             continue;
         // Who has taken it may have ended and left it to a child, or live in another process namespace.
         if (QFile::exists(QStringLiteral("/proc/") + QString::fromLatin1(words[4])))

@@ -4,15 +4,31 @@
 
 #include <QFileInfo>
 
+#include <filesystem>
+
 namespace ardeo
 {
+
+namespace
+{
+
+/// What stands at that path. What cannot be looked at, because of its folder's rights for one, is there as
+/// well, with a kind of its own.
+std::filesystem::file_type kindOf(const QString& path)
+{
+    std::error_code failure;
+    return std::filesystem::status(QFile::encodeName(path).toStdString(), failure).type();
+}
+
+} // namespace
 
 FileUserDefaults::FileUserDefaults(const QDir& folder) : m_folder(folder) {}
 
 std::optional<QByteArray> FileUserDefaults::data(const QString& key) const
 {
     QFile file(m_folder.filePath(key));
-    if (!file.open(QIODevice::ReadOnly))
+    // Anything but a file could be read for ever.
+    if (kindOf(file.fileName()) != std::filesystem::file_type::regular || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     QByteArray data = file.readAll();
     return file.error() == QFileDevice::NoError ? std::optional(data) : std::nullopt;
@@ -20,7 +36,7 @@ std::optional<QByteArray> FileUserDefaults::data(const QString& key) const
 
 bool FileUserDefaults::isUnreadable(const QString& key) const
 {
-    return QFile::exists(m_folder.filePath(key)) && !data(key);
+    return kindOf(m_folder.filePath(key)) != std::filesystem::file_type::not_found && !data(key);
 }
 
 void FileUserDefaults::set(const QByteArray& data, const QString& key)

@@ -131,42 +131,55 @@ QString maskFromPrefix(int prefix)
 
 Checked<IPv4Configuration> checkedIPv4(const Dictionary& dictionary)
 {
-    using Setting = SettingFault::Setting;
     const QVariant method = dictionary.value(configMethodKey);
     if (method == QVariant(methodDHCP))
         return IPv4Configuration{};
     if (method != QVariant(methodManual))
-        return SettingFault{Setting::method, method.toString(),
+        return SettingFault{SettingFault::Setting::method, method.toString(),
                             QStringLiteral("The addresses are set neither by DHCP nor by hand.")};
+    auto addresses = checkedAddresses(dictionary);
+    if (!addresses)
+        return *addresses.fault();
+    auto router = checkedRouter(dictionary);
+    if (!router)
+        return *router.fault();
+    return IPv4Configuration{.manual = true, .addresses = *addresses, .router = *router};
+}
 
+Checked<QList<IPv4Configuration::Address>> checkedAddresses(const Dictionary& dictionary)
+{
     const auto addresses = texts(dictionary, addressesKey);
     const auto masks = texts(dictionary, subnetMasksKey);
     if (!addresses || addresses->isEmpty())
-        return addressFault(Setting::address, QStringLiteral("The IP address"), {});
+        return addressFault(SettingFault::Setting::address, QStringLiteral("The IP address"), {});
     if (!masks || addresses->size() != masks->size())
         return maskFault({});
-    IPv4Configuration configuration{.manual = true, .addresses = {}, .router = {}};
+    QList<IPv4Configuration::Address> checked;
     for (qsizetype i = 0; i < addresses->size(); ++i) {
         const auto prefix = prefixFromMask(masks->at(i));
         if (auto fault = hostFault(addresses->at(i), prefix.value_or(32)))
             return *fault;
         if (!prefix)
             return maskFault(masks->at(i));
-        configuration.addresses.append({addresses->at(i), *prefix});
+        checked.append({addresses->at(i), *prefix});
     }
+    return checked;
+}
 
+Checked<std::optional<QString>> checkedRouter(const Dictionary& dictionary)
+{
+    using Setting = SettingFault::Setting;
     const QVariant given = dictionary.value(routerKey);
     const QString gateway = given.toString();
     const bool isText = !given.isValid() || given.typeId() == QMetaType::QString;
     if (isText && holdsOnlyDots(gateway))
-        return configuration;
+        return std::optional<QString>();
     const auto number = ipv4FromText(gateway);
     if (!isText || !number || !isHostAddress(*number))
         return addressFault(Setting::router, QStringLiteral("The gateway"), gateway);
-    if (addresses->contains(gateway))
+    if (dictionary.value(addressesKey).toStringList().contains(gateway))
         return SettingFault{Setting::router, gateway, QStringLiteral("The gateway is the address itself.")};
-    configuration.router = gateway;
-    return configuration;
+    return std::optional(gateway);
 }
 
 Checked<DNSConfiguration> checkedDNS(const Dictionary& dictionary)
@@ -198,6 +211,15 @@ Checked<DNSConfiguration> checkedDNS(const Dictionary& dictionary)
         configuration.searchDomains.append(domain);
     }
     return configuration;
+}
+
+std::optional<SettingFault> faultOfServersBeside(const QString& method)
+{
+    if (method == methodDHCP || method == methodManual)
+        return std::nullopt;
+    return SettingFault{SettingFault::Setting::dnsServer,
+                        {},
+                        QStringLiteral("A service whose IPv4 is \"%1\" takes no DNS servers.").arg(method)};
 }
 
 } // namespace ardeo

@@ -20,10 +20,11 @@ std::optional<int> prefixFromMask(const QString& mask);
 /// The dotted mask with that many leading one bits, 0 to 32.
 QString maskFromPrefix(int prefix);
 
-/// A value that no system can take.
+/// Why settings cannot be taken.
 struct SettingFault {
-    enum class Setting { method, address, subnetMask, router, dnsServer, searchDomain };
-    Setting setting;
+    /// Of which one it is; none where it is not a value's fault.
+    enum class Setting { none, method, address, subnetMask, router, dnsServer, searchDomain };
+    Setting setting = Setting::none;
     /// The value's text; empty where it has none.
     QString value;
     /// What is wrong with it, as a sentence for the user.
@@ -73,8 +74,13 @@ struct DNSConfiguration {
 /// not contiguous, a gateway that is the address itself, a method other than "DHCP" and "Manual". A router
 /// that holds nothing but dots (an editor that was cleared) counts as absent.
 Checked<IPv4Configuration> checkedIPv4(const Dictionary& dictionary);
+/// Of a manual configuration the addresses, and the router, alone.
+Checked<QList<IPv4Configuration::Address>> checkedAddresses(const Dictionary& dictionary);
+Checked<std::optional<QString>> checkedRouter(const Dictionary& dictionary);
 /// A fault is a server that is not an IPv4 address, or a search domain that could not stand in a resolver's
 /// file. A server that holds nothing but dots counts as absent.
 Checked<DNSConfiguration> checkedDNS(const Dictionary& dictionary);
+/// What is wrong with DNS servers for a service with that method; nothing where it has addresses of its own.
+std::optional<SettingFault> faultOfServersBeside(const QString& method);
 
 } // namespace ardeo

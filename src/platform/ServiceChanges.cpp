@@ -32,9 +32,9 @@ Dictionary replacing(const Dictionary& present, const Dictionary& wanted)
 
 } // namespace
 
-bool ServiceChanges::asksForLease() const
+bool ServiceChanges::askForLease() const
 {
-    return ipv4 && (ipv4->contains(configMethodKey) || !dns || dns->isEmpty());
+    return ipv4 && (ipv4->contains(configMethodKey) || !changeSettings());
 }
 
 Dictionary changed(Dictionary settings, const Dictionary& changes)
@@ -49,6 +49,23 @@ Dictionary changed(Dictionary settings, const Dictionary& changes)
             settings.remove(change.key());
     }
     return settings;
+}
+
+Checked<IPv4Configuration> checkedIPv4Changes(const Dictionary& present, const Dictionary& changes)
+{
+    const Dictionary wanted = changed(present, changes);
+    const bool nameAddresses = changes.contains(addressesKey) || changes.contains(subnetMasksKey);
+    if (nameAddresses || wanted.value(configMethodKey) != present.value(configMethodKey))
+        return checkedIPv4(wanted);
+    IPv4Configuration configuration;
+    configuration.manual = wanted.value(configMethodKey) == QVariant(methodManual);
+    if (changes.contains(routerKey)) {
+        const auto router = checkedRouter(wanted);
+        if (!router)
+            return *router.fault();
+        configuration.router = *router;
+    }
+    return configuration;
 }
 
 Dictionary ipv4Differences(const Dictionary& present, const Dictionary& wanted)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/SystemConfiguration.h"
+#include "platform/ProtocolConfiguration.h"
 
 namespace ardeo
 {
@@ -14,13 +14,19 @@ struct ServiceChanges {
     std::optional<bool> enabled;
 
     bool any() const { return ipv4 || dns || enabled; }
-    /// Whether a service on DHCP is to ask for its lease anew: its IPv4 settings were written for their own
-    /// sake, not beside DNS settings that changed.
-    bool asksForLease() const;
+    /// Whether a setting is to be another one.
+    bool changeSettings() const { return (ipv4 && !ipv4->isEmpty()) || (dns && !dns->isEmpty()); }
+    /// Whether a service on DHCP is to ask for its lease anew: it was put on DHCP, or all of its settings
+    /// were written although they are so already.
+    bool askForLease() const;
 };
 
 /// The settings with the changes made.
 Dictionary changed(Dictionary settings, const Dictionary& changes);
+
+/// What the changes of "IPv4" settings lead to. What they do not name is not checked: it is there, so the
+/// system takes it.
+Checked<IPv4Configuration> checkedIPv4Changes(const Dictionary& present, const Dictionary& changes);
 
 /// What whoever was shown the first address, the first two servers and, beside servers, the search domains of
 /// the present settings has changed when they ask for the wanted ones. Wanted settings that no system can

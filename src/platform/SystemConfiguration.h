@@ -163,6 +163,8 @@ public:
     void observeWaiting(WaitingObserver observer) { m_waiting = std::move(observer); }
     /// The status of the last call of this library, as a code of SystemStatus.
     virtual qint32 error() const = 0;
+    /// What the system itself said of that status, as a sentence; empty where it said nothing.
+    virtual QString errorReason() const { return {}; }
 
 protected:
     const WaitingObserver& waitingObserver() const { return m_waiting; }

@@ -12,14 +12,10 @@ NetworkPresetStore::NetworkPresetStore(UserDefaults& defaults)
     , m_defaults(defaults)
 {
     const auto stored = m_defaults.data(key);
-    m_isUnreadable = m_defaults.isUnreadable(key);
-    if (!stored)
-        return;
-    if (auto presets = decodePresets(*stored))
+    auto presets = stored ? decodePresets(*stored) : std::nullopt;
+    m_isUnreadable = stored ? !presets : m_defaults.isUnreadable(key);
+    if (presets)
         m_presets = std::move(*presets);
-    else
-        m_unreadable = stored;
-    m_isUnreadable = m_unreadable.has_value();
 }
 
 void NetworkPresetStore::setPresets(const QList<NetworkPreset>& presets)
@@ -72,10 +68,12 @@ void NetworkPresetStore::persist()
     const auto encoded = encodePresets(m_presets);
     if (!encoded)
         return;
-    if (m_unreadable && !putAside(*m_unreadable))
-        return;
-    m_unreadable.reset();
-    m_isUnreadable = false;
+    if (m_isUnreadable) {
+        const auto unreadable = m_defaults.data(key);
+        if (unreadable && !putAside(*unreadable))
+            return;
+        m_isUnreadable = m_defaults.isUnreadable(key); // which is not replaced
+    }
     m_defaults.set(*encoded, key);
 }
 

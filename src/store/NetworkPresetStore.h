@@ -43,8 +43,6 @@ private:
     UserDefaults& m_defaults;
     QList<NetworkPreset> m_presets;
     bool m_isUnreadable = false;
-    /// What was found at the start and could not be read; kept until it has been put aside.
-    std::optional<QByteArray> m_unreadable;
 };
 
 } // namespace ardeo

@@ -61,10 +61,16 @@ private Q_SLOTS:
         lapse(); // from now on polkit keeps none, and NetworkManager asks for one of its own
         QCOMPARE(apply(), QString());
         QCOMPARE(prompts(), 3);
-        QFile refused(qEnvironmentVariable("LAB_REFUSED"));
-        QVERIFY(refused.open(QIODevice::WriteOnly) && refused.write("4\n") > 0 && refused.flush());
+        const auto choose = [](const char* variable, const char* prompt) {
+            QFile file(qEnvironmentVariable(variable));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(prompt) > 0);
+        };
+        choose("LAB_REFUSED", "4\n");
         QCOMPARE(apply(), u"Cannot save changes (SC 1003)."_s);
         QCOMPARE(prompts(), 4);
+        choose("LAB_SLOW", "6\n"); // NetworkManager's own, after ours
+        QCOMPARE(apply(), QString());
+        QCOMPARE(prompts(), 6);
         const std::weak_ptr<MainViewModel> alive = model;
         QTRY_VERIFY_WITH_TIMEOUT(alive.use_count() == 1, 10'000); // the follow-up refreshes
     }

@@ -59,6 +59,13 @@ private Q_SLOTS:
             QCOMPARE(fault.value_or(SettingFault()).reason, QLatin1String(row.reason));
         }
         QVERIFY(!checkedDNS({{u"SearchDomains"_s, QStringList(u"a\nnameserver 6.6.6.6"_s)}}));
+        // What is there already is nobody's fault.
+        const Dictionary odd{{u"ConfigMethod"_s, u"Manual"_s},
+                             {u"Addresses"_s, QStringList{u"10.0.0.2"_s, u"10.88.0.0"_s}},
+                             {u"SubnetMasks"_s, QStringList{u"255.0.0.0"_s, u"255.255.255.0"_s}}};
+        QCOMPARE(checkedIPv4Changes(odd, {{u"Router"_s, u"10.0.0.1"_s}})->router, u"10.0.0.1"_s);
+        QVERIFY(!checkedIPv4Changes(odd, {{u"Router"_s, u"10.0.0.2"_s}}));
+        QVERIFY(!checkedIPv4Changes(odd, {{u"Addresses"_s, odd[u"Addresses"_s]}}));
     }
 
     void aFormChangesOnlyWhatItShows()
@@ -138,8 +145,15 @@ private Q_SLOTS:
         QCOMPARE(told(readOnly), u"Permission denied."_s);
         QCOMPARE(FileUserDefaults(folder).data(key), old);
         QCOMPARE(folder.entryList(QDir::Files), QStringList(key));
-        QVERIFY(QFile::remove(folder.filePath(key)) && folder.mkdir(key));
-        QCOMPARE(told([](bool) {}), u"those stored before cannot be read."_s);
+        const auto replaceBy = [&](const auto& make) {
+            const QString file = folder.filePath(key);
+            QVERIFY((QFile::remove(file) || QDir().rmdir(file)) &&
+                    make(QFile::encodeName(file).constData()) == 0);
+            QCOMPARE(told([](bool) {}), u"those stored before cannot be read."_s);
+        };
+        replaceBy([](const char* file) { return mkdir(file, 0700); });
+        replaceBy([](const char* file) { return symlink(file, file); }); // which cannot even be looked at
+        replaceBy([](const char* file) { return mkfifo(file, 0600); });  // which would be read for ever
     }
 
     void nobodyElsesFileIsWrittenOrReadableThroughOurs()

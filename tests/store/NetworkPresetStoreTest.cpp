@@ -56,9 +56,12 @@ private Q_SLOTS:
         check(6, 7);
         store.upsertAll({});
         check(6, 7);
-        store.upsertAll({preset("Other"), first, preset("Third"), first}); // one twice
+        NetworkPreset later = first;
+        later.name = u"Later"_s;
+        store.upsertAll({preset("Other"), first, preset("Third"), later}); // one twice
         check(7, 8);
         QCOMPARE(store.presets().size(), 3);
+        QCOMPARE(store.presets().at(1), later);
         store.setPresets({});
         QCOMPARE(defaults.values[key], QByteArray("[]"));
     }
@@ -84,6 +87,10 @@ private Q_SLOTS:
         QCOMPARE(defaults.values[key + u".unreadable"_s], QByteArray("[{}]"));
         QCOMPARE(defaults.values[key + u".unreadable-2"_s], QByteArray("{"));
         QCOMPARE(NetworkPresetStore(defaults).presets().size(), 2);
+        defaults.unreadable = {key};
+        NetworkPresetStore third(defaults);
+        third.upsert(preset("Only"));
+        QVERIFY(third.isUnreadable()); // and less than what is there
     }
 
     void listThatCannotBeEncodedStaysInMemory()

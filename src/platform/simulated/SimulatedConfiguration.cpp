@@ -203,8 +203,7 @@ public:
                 return SystemStatus::invalidArgument;
             if (changes.enabled)
                 service["enabled"] = *changes.enabled;
-            record = {
-                .seen = service, .changes = {}, .committed = true, .freshLease = changes.asksForLease()};
+            record = {.seen = service, .changes = {}, .committed = true, .freshLease = changes.askForLease()};
             return SystemStatus::ok;
         });
     }
@@ -252,9 +251,10 @@ private:
         if (!changes || changes->isEmpty())
             return true;
         Json& settings = service["protocols"][type];
-        const Dictionary wanted = changed(valueFromJson(settings).toMap(), *changes);
+        const Dictionary present = valueFromJson(settings).toMap();
+        const Dictionary wanted = changed(present, *changes);
         const bool isDNS = std::string_view(type) == "DNS";
-        if (isDNS ? !checkedDNS(wanted) : !checkedIPv4(wanted))
+        if (isDNS ? !checkedDNS(wanted) : !checkedIPv4Changes(present, *changes))
             return false;
         settings = normalized(wanted);
         return true;

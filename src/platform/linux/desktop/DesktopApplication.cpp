@@ -31,7 +31,8 @@ DesktopApplication::Claim DesktopApplication::claim()
     const QString name = QLatin1String(applicationIdentifier);
     const auto reply = bus.interface()->registerService(name, QDBusConnectionInterface::DontQueueService,
                                                         QDBusConnectionInterface::DontAllowReplacement);
-    if (reply.value() != QDBusConnectionInterface::ServiceNotRegistered)
+    // A bus that lets nobody have the name knows of no other one either.
+    if (!reply.isValid() || reply.value() != QDBusConnectionInterface::ServiceNotRegistered)
         return Claim::granted;
     QDBusMessage activate = QDBusMessage::createMethodCall(
         name, QLatin1String(objectPath), QLatin1String(interfaceName), QStringLiteral("Activate"));

@@ -38,7 +38,7 @@ public:
     ~GLibError() { g_clear_error(&m_error); }
 
     GError** out() { return &m_error; }
-    const GError* get() const { return m_error; }
+    GError* get() const { return m_error; }
     explicit operator bool() const { return m_error != nullptr; }
 
 private:

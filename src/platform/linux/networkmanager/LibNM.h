@@ -9,3 +9,4 @@ extern "C" {
 }
 
 #include <NetworkManager.h>
+#include <nm-vpn-dbus-interface.h>

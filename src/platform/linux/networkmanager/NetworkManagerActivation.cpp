@@ -12,7 +12,9 @@ namespace
 {
 
 /// Milliseconds at the end of an operation's time that are kept to ask whether the daemon is still there.
-constexpr int lastQuestion = 1000;
+constexpr int lastQuestionMilliseconds = 1000;
+/// Milliseconds that a VPN's plugin is given to end what it has begun.
+constexpr int pluginMilliseconds = 1000;
 
 const char* pathOf(gpointer object)
 {
@@ -27,59 +29,89 @@ NMDeviceState deviceStateOf(NMActiveConnection* active)
                                                                        : NM_DEVICE_STATE_UNKNOWN;
 }
 
-/// An Ethernet profile without addresses that the daemon forgets when it goes down, or when its maker does;
-/// for the same user alone, where the other profile is.
-GVariant* standInArguments(NMConnection* profileToReplace, const char* device)
+/// Gives the profile no addresses of that family.
+void disableIP(NMConnection* profile, NMSetting* setting, const char* disabled)
 {
-    const auto method = [](const char* name) {
-        GVariantBuilder settings;
-        g_variant_builder_init(&settings, G_VARIANT_TYPE_VARDICT);
-        g_variant_builder_add(&settings, "{sv}", NM_SETTING_IP_CONFIG_METHOD, g_variant_new_string(name));
-        return g_variant_builder_end(&settings);
-    };
-    GVariantBuilder common;
-    g_variant_builder_init(&common, G_VARIANT_TYPE_VARDICT);
-    g_variant_builder_add(&common, "{sv}", NM_SETTING_CONNECTION_ID, g_variant_new_string("Ardeo IP Config"));
-    g_variant_builder_add(&common, "{sv}", NM_SETTING_CONNECTION_TYPE,
-                          g_variant_new_string(NM_SETTING_WIRED_SETTING_NAME));
-    NMSettingConnection* replaced = nm_connection_get_setting_connection(profileToReplace);
-    GVariantBuilder permissions;
-    g_variant_builder_init(&permissions, G_VARIANT_TYPE_STRING_ARRAY);
-    for (guint i = 0; i < nm_setting_connection_get_num_permissions(replaced); ++i) {
+    g_object_set(setting, NM_SETTING_IP_CONFIG_METHOD, disabled, nullptr);
+    nm_connection_add_setting(profile, setting);
+}
+
+/// A profile of that type and for that interface, without addresses; for the same user alone, where the other
+/// one is.
+GRef<NMConnection> standInFor(NMConnection* profile)
+{
+    NMSettingConnection* others = nm_connection_get_setting_connection(profile);
+    const char* type = nm_setting_connection_get_connection_type(others);
+    const std::unique_ptr<char, decltype(&g_free)> uuid(nm_utils_uuid_generate(), &g_free);
+    NMSetting* common = nm_setting_connection_new();
+    g_object_set(common, NM_SETTING_CONNECTION_ID, "Ardeo IP Config", NM_SETTING_CONNECTION_UUID, uuid.get(),
+                 NM_SETTING_CONNECTION_TYPE, type, NM_SETTING_CONNECTION_INTERFACE_NAME,
+                 nm_setting_connection_get_interface_name(others), NM_SETTING_CONNECTION_AUTOCONNECT, FALSE,
+                 nullptr);
+    for (guint i = 0; i < nm_setting_connection_get_num_permissions(others); ++i) {
+        const char* kind = nullptr;
         const char* user = nullptr;
-        if (nm_setting_connection_get_permission(replaced, i, nullptr, &user, nullptr))
-            g_variant_builder_add_value(&permissions,
-                                        g_variant_new_take_string(g_strdup_printf("user:%s:", user)));
+        if (nm_setting_connection_get_permission(others, i, &kind, &user, nullptr))
+            nm_setting_connection_add_permission(NM_SETTING_CONNECTION(common), kind, user, nullptr);
     }
-    g_variant_builder_add(&common, "{sv}", NM_SETTING_CONNECTION_PERMISSIONS,
-                          g_variant_builder_end(&permissions));
-    GVariantBuilder profile;
-    g_variant_builder_init(&profile, G_VARIANT_TYPE("a{sa{sv}}"));
-    g_variant_builder_add(&profile, "{s@a{sv}}", NM_SETTING_CONNECTION_SETTING_NAME,
-                          g_variant_builder_end(&common));
-    g_variant_builder_add(&profile, "{s@a{sv}}", NM_SETTING_IP4_CONFIG_SETTING_NAME,
-                          method(NM_SETTING_IP4_CONFIG_METHOD_DISABLED));
-    g_variant_builder_add(&profile, "{s@a{sv}}", NM_SETTING_IP6_CONFIG_SETTING_NAME,
-                          method(NM_SETTING_IP6_CONFIG_METHOD_DISABLED));
-    GVariantBuilder options;
-    g_variant_builder_init(&options, G_VARIANT_TYPE_VARDICT);
-    g_variant_builder_add(&options, "{sv}", "persist", g_variant_new_string("volatile"));
-    g_variant_builder_add(&options, "{sv}", "bind-activation", g_variant_new_string("dbus-client"));
-    return g_variant_new("(a{sa{sv}}ooa{sv})", &profile, device, "/", &options);
+    GRef<NMConnection> standIn(nm_simple_connection_new());
+    nm_connection_add_setting(standIn.get(), common);
+    if (NMSetting* own = nm_connection_get_setting_by_name(profile, type))
+        nm_connection_add_setting(standIn.get(), nm_setting_duplicate(own));
+    disableIP(standIn.get(), nm_setting_ip4_config_new(), NM_SETTING_IP4_CONFIG_METHOD_DISABLED);
+    disableIP(standIn.get(), nm_setting_ip6_config_new(), NM_SETTING_IP6_CONFIG_METHOD_DISABLED);
+    return standIn;
+}
+
+/// Whether others hang on the device, as on a bridge.
+bool hasPorts(NMDevice* device)
+{
+    const GPtrArray* ports = nm_device_get_ports(device);
+    return ports && ports->len > 0;
 }
 
 } // namespace
 
 SystemStatus NetworkManagerActivation::renew(NMActiveConnection* active, NMDevice* device, bool freshLease)
 {
+    if (!device)
+        return restart(active);
     const bool complete = nm_active_connection_get_state(active) == NM_ACTIVE_CONNECTION_STATE_ACTIVATED;
     // Reapplying keeps the lease and, while only DNS changes, the addresses.
     const bool asksAnew = freshLease && isOnDHCP();
-    if (device && complete && !asksAnew && reapply(device))
+    if (complete && !asksAnew && reapply(device, nullptr))
         return SystemStatus::ok;
-    // A VPN cannot be activated on top of itself.
-    const SystemStatus status = device ? SystemStatus::ok : deactivate(pathOf(active));
-    return status == SystemStatus::ok ? takeUp(device) : status;
+    // Activated anew, a bridge would lose its ports.
+    if (complete && asksAnew && hasPorts(device) && reapply(device, withoutIPv4().get()) &&
+        reapply(device, nullptr))
+        return SystemStatus::ok;
+    return takeUp(device);
+}
+
+/// A VPN cannot be activated on top of itself; and a plugin that is still ending the old one would end the
+/// new one with it.
+SystemStatus NetworkManagerActivation::restart(NMActiveConnection* vpn)
+{
+    GDBusConnection* const bus = nm_client_get_dbus_connection(m_session.client());
+    const GDBusSignalCallback note = [](GDBusConnection*, const char*, const char*, const char*, const char*,
+                                        GVariant* arguments, gpointer hasStopped) {
+        guint32 state = NM_VPN_SERVICE_STATE_UNKNOWN;
+        if (g_variant_is_of_type(arguments, G_VARIANT_TYPE("(u)")))
+            g_variant_get(arguments, "(u)", &state);
+        if (state == NM_VPN_SERVICE_STATE_STOPPED)
+            *static_cast<bool*>(hasStopped) = true;
+    };
+    bool hasStopped = false;
+    guint subscription = 0;
+    m_session.loop().start([&] {
+        subscription = g_dbus_connection_signal_subscribe(
+            bus, nullptr, NM_VPN_DBUS_PLUGIN_INTERFACE, "StateChanged", NM_VPN_DBUS_PLUGIN_PATH, nullptr,
+            G_DBUS_SIGNAL_FLAGS_NONE, note, &hasStopped, nullptr);
+    });
+    const SystemStatus status = deactivate(pathOf(vpn));
+    m_session.loop().runUntil(QDeadlineTimer(pluginMilliseconds), [&hasStopped] { return hasStopped; });
+    g_dbus_connection_signal_unsubscribe(bus, subscription);
+    return status == SystemStatus::ok ? takeUp(nullptr) : status;
 }
 
 bool NetworkManagerActivation::isOnDHCP() const
@@ -95,13 +127,27 @@ bool NetworkManagerActivation::daemonTriesAgain() const
            !nm_connection_is_type(m_saved, NM_SETTING_VPN_SETTING_NAME);
 }
 
-bool NetworkManagerActivation::reapply(NMDevice* device)
+/// Has the device take those settings, or without any the profile's saved ones; false when it cannot.
+bool NetworkManagerActivation::reapply(NMDevice* device, NMConnection* settings)
 {
     const auto ended = m_session.loop().call(
-        m_session.deadline(), [device](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-            nm_device_reapply_async(device, nullptr, 0, 0, cancellable, done, data);
+        m_session.deadline(), [=](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
+            nm_device_reapply_async(device, settings, 0, 0, cancellable, done, data);
         });
     return nm_device_reapply_finish(device, ended.get(), nullptr) != FALSE;
+}
+
+/// The saved profile, but for its addresses.
+GRef<NMConnection> NetworkManagerActivation::withoutIPv4() const
+{
+    GRef<NMConnection> profile(nm_simple_connection_new_clone(m_saved));
+    disableIP(profile.get(), nm_setting_ip4_config_new(), NM_SETTING_IP4_CONFIG_METHOD_DISABLED);
+    return profile;
+}
+
+SystemStatus NetworkManagerActivation::awaitIPv4(NMActiveConnection* active, NMDevice* device)
+{
+    return waitForIPv4(pathOf(active), device);
 }
 
 SystemStatus NetworkManagerActivation::takeUp(NMDevice* device)
@@ -114,7 +160,8 @@ SystemStatus NetworkManagerActivation::takeUp(NMDevice* device)
 SystemStatus NetworkManagerActivation::beginToTakeUp(NMDevice* device)
 {
     QByteArray path;
-    return begin(device, path);
+    const SystemStatus status = begin(device, path);
+    return status == SystemStatus::failed && daemonTriesAgain() ? SystemStatus::ok : status;
 }
 
 SystemStatus NetworkManagerActivation::begin(NMDevice* device, QByteArray& path)
@@ -141,9 +188,7 @@ SystemStatus NetworkManagerActivation::waitForIPv4(const char* path, NMDevice* d
 {
     NMClient* client = m_session.client();
     const bool dhcp = isOnDHCP();
-    QDeadlineTimer limit = m_session.deadline();
-    limit = limit.isForever() ? QDeadlineTimer(NetworkManagerSession::operationMilliseconds) : limit;
-    limit -= lastQuestion;
+    const QDeadlineTimer limit = m_session.daemonDeadline() - lastQuestionMilliseconds;
     GRef<NMActiveConnection> active;
     bool done = false;
     const bool settled = m_session.loop().runUntil(limit, [&] {
@@ -178,13 +223,13 @@ SystemStatus NetworkManagerActivation::waitForIPv4(const char* path, NMDevice* d
 bool NetworkManagerActivation::hasLostItsCable(NMDevice* device)
 {
     constexpr int moment = 1000;
-    const QDeadlineTimer limit = std::min(m_session.deadline(), QDeadlineTimer(moment));
+    const QDeadlineTimer limit = std::min(m_session.daemonDeadline(), QDeadlineTimer(moment));
     return device &&
            m_session.loop().runUntil(limit, [device] { return readinessOf(device) == Readiness::unready; });
 }
 
 /// The daemon takes the end of an activation for the user's wish that the profile is never connected by
-/// itself again until it has been activated by hand, which is not possible while a cable is out. So what is
+/// itself again until it has been activated by hand, which DHCP cannot be while a cable is out. So what is
 /// ended at the user's wish is a profile without addresses that takes the place of an Ethernet profile first.
 /// (Where there is no cable, enabling can always begin an activation.)
 SystemStatus NetworkManagerActivation::takeDown(NMActiveConnection* active)
@@ -200,14 +245,24 @@ bool NetworkManagerActivation::replaceByStandIn(NMActiveConnection* active)
     NMDevice* device = deviceOf(active);
     if (!device)
         return false;
+    const GRef<NMConnection> standIn = standInFor(m_saved);
+    // The daemon forgets it when it goes down, or when its maker does.
+    GVariantBuilder options;
+    g_variant_builder_init(&options, G_VARIANT_TYPE_VARDICT);
+    g_variant_builder_add(&options, "{sv}", "persist", g_variant_new_string("volatile"));
+    g_variant_builder_add(&options, "{sv}", "bind-activation", g_variant_new_string("dbus-client"));
     GLibError error;
-    const GVariantRef answer = m_session.ask("AddAndActivateConnection2",
-                                             standInArguments(m_saved, pathOf(device)), "(ooa{sv})", error);
+    const GVariantRef answer =
+        m_session.ask("AddAndActivateConnection2",
+                      g_variant_new("(@a{sa{sv}}ooa{sv})",
+                                    nm_connection_to_dbus(standIn.get(), NM_CONNECTION_SERIALIZE_ALL),
+                                    pathOf(device), "/", &options),
+                      "(ooa{sv})", error);
     if (!answer)
         return false;
     const char* path = nullptr;
     g_variant_get(answer.get(), "(&o&oa{sv})", nullptr, &path, nullptr);
-    const bool replaced = m_session.loop().runUntil(m_session.deadline(), [active] {
+    const bool replaced = m_session.loop().runUntil(m_session.daemonDeadline(), [active] {
         return nm_active_connection_get_state(active) == NM_ACTIVE_CONNECTION_STATE_DEACTIVATED;
     });
     return deactivate(path) == SystemStatus::ok && replaced;
@@ -223,7 +278,7 @@ SystemStatus NetworkManagerActivation::deactivate(const char* path)
         return g_error_matches(error.get(), NM_MANAGER_ERROR, NM_MANAGER_ERROR_CONNECTION_NOT_ACTIVE)
                    ? SystemStatus::ok
                    : statusOf(error);
-    const bool down = m_session.loop().runUntil(m_session.deadline(), [&] {
+    const bool down = m_session.loop().runUntil(m_session.daemonDeadline(), [&] {
         NMObject* shown = nm_client_get_object_by_path(client, path);
         return !nm_client_get_nm_running(client) || !NM_IS_ACTIVE_CONNECTION(shown) ||
                nm_active_connection_get_state(NM_ACTIVE_CONNECTION(shown)) ==

@@ -19,9 +19,12 @@ public:
     {
     }
 
-    /// Brings the profile's saved settings into force on a device that it is active on; with a fresh lease,
-    /// DHCP asks for one anew, which interrupts the connection.
+    /// Brings the profile's saved settings into force where it is active, on a device or as a VPN; with a
+    /// fresh lease, DHCP asks for one anew, which interrupts the connection.
     SystemStatus renew(NMActiveConnection* active, NMDevice* device, bool freshLease);
+
+    /// Waits until an activation that goes on already has brought the saved settings into force.
+    SystemStatus awaitIPv4(NMActiveConnection* active, NMDevice* device);
 
     /// Activates the profile on the device; without one, the daemon makes or finds it. What cannot be had now
     /// (a VLAN's parent, a cable) is no failure where the daemon connects the profile by itself later.
@@ -37,12 +40,14 @@ public:
 private:
     /// Leaves the activation's path in path.
     SystemStatus begin(NMDevice* device, QByteArray& path);
+    SystemStatus restart(NMActiveConnection* vpn);
     SystemStatus waitForIPv4(const char* path, NMDevice* device);
     SystemStatus deactivate(const char* path);
     bool isOnDHCP() const;
     bool daemonTriesAgain() const;
     bool hasLostItsCable(NMDevice* device);
-    bool reapply(NMDevice* device);
+    bool reapply(NMDevice* device, NMConnection* settings);
+    GRef<NMConnection> withoutIPv4() const;
     bool replaceByStandIn(NMActiveConnection* active);
 
     NetworkManagerSession& m_session;

@@ -19,6 +19,7 @@ public:
     bool awaitChange() override;
     void interrupt() override;
     qint32 error() const override { return static_cast<qint32>(m_status); }
+    QString errorReason() const override { return m_view.refusal; }
 
     /// How the daemon was found the last time. May be called from any thread.
     DaemonPresence presence() const { return m_view.presence; }

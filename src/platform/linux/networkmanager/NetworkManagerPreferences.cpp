@@ -24,8 +24,8 @@ constexpr auto lockFolder = "/run/NetworkManager";
 /// Writes the changes into the profile; false when it cannot be taken.
 bool translate(const ServiceChanges& changes, NMConnection* profile)
 {
-    if (changes.ipv4 && !changes.ipv4->isEmpty()) {
-        const auto checked = checkedIPv4(changed(ipv4DictionaryOf(profile), *changes.ipv4));
+    if (changes.ipv4) {
+        const auto checked = checkedIPv4Changes(ipv4DictionaryOf(profile), *changes.ipv4);
         if (!checked)
             return false;
         changeIPv4(profile, *checked, *changes.ipv4);
@@ -59,15 +59,7 @@ bool isInReach(NMDevice* device, NMRemoteConnection* connection)
 /// Reads a profile from the daemon, not from the snapshot; null with the error when that fails.
 GRef<NMConnection> readAnew(NetworkManagerSession& session, NMRemoteConnection* connection, GLibError& error)
 {
-    GDBusConnection* bus = nm_client_get_dbus_connection(session.client());
-    const auto ended = session.loop().call(
-        session.deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-            g_dbus_connection_call(bus, NM_DBUS_SERVICE, nm_connection_get_path(NM_CONNECTION(connection)),
-                                   NM_DBUS_INTERFACE_SETTINGS_CONNECTION, "GetSettings", nullptr,
-                                   G_VARIANT_TYPE("(a{sa{sv}})"), G_DBUS_CALL_FLAGS_NO_AUTO_START, -1,
-                                   cancellable, done, data);
-        });
-    const GVariantRef answer(g_dbus_connection_call_finish(bus, ended.get(), error.out()));
+    const GVariantRef answer = session.ask(connection, "GetSettings", nullptr, "(a{sa{sv}})", error);
     if (!answer)
         return nullptr;
     const GVariantRef settings(g_variant_get_child_value(answer.get(), 0));
@@ -189,21 +181,22 @@ SystemStatus NetworkManagerPreferences::commit(Profile& profile)
     if (!translate(profile.changes, changed.get()))
         return SystemStatus::invalidArgument;
 
+    for (NMActiveConnection* active : activationsOf(m_session->client(), profile.connection.get()))
+        profile.activationsBefore.insert(nm_object_get_path(NM_OBJECT(active)));
     // To disk, also if the daemon made the profile up. Secrets are not among what was read, and an update
     // without any leaves them as they are. The daemon may connect a profile that was just enabled before
     // apply does, with the same settings; keeping it from that would keep it from connecting when the cable
     // comes back, too.
-    constexpr auto flags = NM_SETTINGS_UPDATE2_FLAG_TO_DISK;
-    const auto ended = m_session->loop().call(
-        m_session->deadline(), [&](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-            nm_remote_connection_update2(profile.connection.get(),
-                                         nm_connection_to_dbus(changed.get(), NM_CONNECTION_SERIALIZE_ALL),
-                                         flags, nullptr, cancellable, done, data);
-        });
-    const GVariantRef updated(
-        nm_remote_connection_update2_finish(profile.connection.get(), ended.get(), error.out()));
-    if (!updated)
-        return statusOf(error);
+    const GVariantRef updated = m_session->ask(
+        profile.connection.get(), "Update2",
+        g_variant_new("(@a{sa{sv}}ua{sv})", nm_connection_to_dbus(changed.get(), NM_CONNECTION_SERIALIZE_ALL),
+                      guint32(NM_SETTINGS_UPDATE2_FLAG_TO_DISK), nullptr),
+        nullptr, error);
+    // What is wrong with the profile has been found before; the daemon says the same of a disk that is full.
+    if (!updated) {
+        const SystemStatus status = statusOf(error);
+        return status == SystemStatus::invalidArgument ? SystemStatus::failed : status;
+    }
     profile.seen.reset();
     profile.committed = std::move(changed);
     return SystemStatus::ok;
@@ -225,30 +218,34 @@ bool NetworkManagerPreferences::applyChanges()
 
 SystemStatus NetworkManagerPreferences::apply(const Profile& profile)
 {
-    NMClient* client = m_session->client();
-    if (!nm_client_get_nm_running(client))
+    // The daemon may have connected the profile meanwhile.
+    if (!m_session->catchUp())
         return SystemStatus::noStoreServer;
-    // The daemon may go away while it is asked, and its objects with it.
+    // It may also go away while it is asked, and its objects with it.
     std::vector<GRef<NMActiveConnection>> actives;
-    for (NMActiveConnection* active : activationsOf(client, profile.connection.get()))
+    for (NMActiveConnection* active : activationsOf(m_session->client(), profile.connection.get()))
         actives.push_back(newRef(active));
-    return actives.empty() ? applyToInactive(profile) : applyToActive(profile, actives);
-}
-
-SystemStatus NetworkManagerPreferences::applyToActive(const Profile& profile,
-                                                      const std::vector<GRef<NMActiveConnection>>& actives)
-{
-    NetworkManagerActivation activation(*m_session, profile.connection.get(), profile.committed.get());
+    if (actives.empty())
+        return applyToInactive(profile);
     for (const auto& active : actives) {
-        const GRef<NMDevice> device = newRef(deviceOf(active.get()));
-        const SystemStatus status =
-            profile.changes.enabled == false
-                ? activation.takeDown(active.get())
-                : activation.renew(active.get(), device.get(), profile.changes.asksForLease());
+        const SystemStatus status = applyToActive(profile, active.get());
         if (status != SystemStatus::ok)
             return status;
     }
     return SystemStatus::ok;
+}
+
+SystemStatus NetworkManagerPreferences::applyToActive(const Profile& profile, NMActiveConnection* active)
+{
+    NetworkManagerActivation activation(*m_session, profile.connection.get(), profile.committed.get());
+    const GRef<NMDevice> device = newRef(deviceOf(active));
+    if (profile.changes.enabled == false)
+        return activation.takeDown(active);
+    if (!profile.activationsBefore.contains(nm_object_get_path(NM_OBJECT(active))))
+        return activation.awaitIPv4(active, device.get());
+    const bool freshLease = device && profile.changes.askForLease();
+    return freshLease || profile.changes.changeSettings() ? activation.renew(active, device.get(), freshLease)
+                                                          : SystemStatus::ok;
 }
 
 SystemStatus NetworkManagerPreferences::applyToInactive(const Profile& profile)
@@ -268,9 +265,13 @@ SystemStatus NetworkManagerPreferences::applyToInactive(const Profile& profile)
         return makesItsDevice || (isVPN && enabling) ? activation.takeUp(nullptr) : SystemStatus::ok;
     }
     // What cannot be taken up now, the daemon takes up by itself, as it was saved, when a cable or a network
-    // is there.
+    // is there; unless somebody took it down by hand: that counts until it is activated again, and what can
+    // do without its cable can be activated now.
     const Readiness readiness = readinessOf(device.get());
-    if (readiness == Readiness::unready || (readiness == Readiness::held && !enabling))
+    const bool wasTakenDown = enabling || !nm_device_get_autoconnect(device.get());
+    if (readiness == Readiness::unready)
+        return wasTakenDown ? activation.beginToTakeUp(device.get()) : SystemStatus::ok;
+    if (readiness == Readiness::held && !enabling)
         return SystemStatus::ok;
     if (isInReach(device.get(), connection))
         return activation.takeUp(device.get());

@@ -1,22 +1,11 @@
 #pragma once
 
 #include "platform/AdvisoryLock.h"
-#include "platform/ServiceChanges.h"
 #include "platform/linux/networkmanager/NetworkManagerSession.h"
+#include "platform/linux/networkmanager/Profile.h"
 
 namespace ardeo
 {
-
-/// A connection profile, and what was set for it through the handle.
-struct Profile {
-    GRef<NMRemoteConnection> connection;
-    ServiceChanges changes;
-    /// The profile as it was when it was first changed here: what a commit expects to find; null before a
-    /// change and after its commit.
-    GRef<NMConnection> seen;
-    /// The profile as it was committed; null before.
-    GRef<NMConnection> committed;
-};
 
 /// The preferences as NetworkManager's connection profiles, and the transaction that changes one.
 class NetworkManagerPreferences final : public Preferences
@@ -41,7 +30,7 @@ private:
     SystemStatus checkRight(const char* action);
     SystemStatus commit(Profile& profile);
     SystemStatus apply(const Profile& profile);
-    SystemStatus applyToActive(const Profile& profile, const std::vector<GRef<NMActiveConnection>>& actives);
+    SystemStatus applyToActive(const Profile& profile, NMActiveConnection* active);
     SystemStatus applyToInactive(const Profile& profile);
 
     std::shared_ptr<NetworkManagerSession> m_session;

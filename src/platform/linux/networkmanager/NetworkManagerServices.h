@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/linux/networkmanager/NetworkManagerPreferences.h"
+#include "platform/linux/networkmanager/NetworkManagerSession.h"
+#include "platform/linux/networkmanager/Profile.h"
 
 namespace ardeo
 {

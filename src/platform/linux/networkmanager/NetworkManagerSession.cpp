@@ -43,6 +43,7 @@ NetworkManagerSession::NetworkManagerSession(DaemonView& view)
     : m_view(view)
     , m_deadline(operationMilliseconds)
 {
+    m_view.refusal.clear();
 }
 
 NMClient* NetworkManagerSession::client()
@@ -60,7 +61,7 @@ bool NetworkManagerSession::catchUp()
     GDBusConnection* const bus = nm_client_get_dbus_connection(client);
     const QByteArray daemon(nm_client_get_dbus_name_owner(client));
     for (int answer = 0; answer < 2; ++answer) {
-        if (daemon.isEmpty() || !answers(m_view.loop, m_deadline, bus, daemon.constData()))
+        if (daemon.isEmpty() || !answers(m_view.loop, daemonDeadline(), bus, daemon.constData()))
             return false;
     }
     return nm_client_get_nm_running(client) != FALSE;
@@ -103,14 +104,32 @@ NMClient* NetworkManagerSession::reconnect()
 GVariantRef NetworkManagerSession::ask(const char* method, GVariant* arguments, const char* replyType,
                                        GLibError& error)
 {
+    return call(NM_DBUS_PATH, NM_DBUS_INTERFACE, method, arguments, replyType, error);
+}
+
+GVariantRef NetworkManagerSession::ask(NMRemoteConnection* profile, const char* method, GVariant* arguments,
+                                       const char* replyType, GLibError& error)
+{
+    return call(nm_connection_get_path(NM_CONNECTION(profile)), NM_DBUS_INTERFACE_SETTINGS_CONNECTION, method,
+                arguments, replyType, error);
+}
+
+GVariantRef NetworkManagerSession::call(const char* path, const char* interface, const char* method,
+                                        GVariant* arguments, const char* replyType, GLibError& error)
+{
     GDBusConnection* const bus = nm_client_get_dbus_connection(m_view.client.get());
     const auto ended =
         m_view.loop.call(m_deadline, [=](GCancellable* cancellable, GAsyncReadyCallback done, gpointer data) {
-            g_dbus_connection_call(bus, NM_DBUS_SERVICE, NM_DBUS_PATH, NM_DBUS_INTERFACE, method, arguments,
+            // The operation's own deadline ends it; a person who is asked may take longer than any other.
+            g_dbus_connection_call(bus, NM_DBUS_SERVICE, path, interface, method, arguments,
                                    replyType ? G_VARIANT_TYPE(replyType) : nullptr,
-                                   G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, cancellable, done, data);
+                                   G_DBUS_CALL_FLAGS_NO_AUTO_START, G_MAXINT, cancellable, done, data);
         });
-    return GVariantRef(g_dbus_connection_call_finish(bus, ended.get(), error.out()));
+    GVariantRef answer(g_dbus_connection_call_finish(bus, ended.get(), error.out()));
+    if (!answer)
+        g_dbus_error_strip_remote_error(error.get());
+    m_view.refusal = answer ? QString() : QString::fromUtf8(error.get()->message);
+    return answer;
 }
 
 } // namespace ardeo

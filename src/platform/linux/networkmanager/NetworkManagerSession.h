@@ -27,6 +27,8 @@ struct DaemonView {
     SystemBus bus;
     /// What the daemon has told, as of the last catching up; null when there is none.
     GRef<NMClient> client;
+    /// What the daemon said when it refused the last call; empty when it did not refuse it.
+    QString refusal;
     /// Null as long as nobody waits for changes.
     std::unique_ptr<ChangeSignals> signals;
     /// May be read from any thread.
@@ -50,13 +52,20 @@ public:
     /// Takes a new snapshot, because time has passed; null as above.
     NMClient* reconnect();
 
-    /// Calls a method of the daemon itself; null with the error when that fails.
+    /// Calls a method of the daemon itself, or of a profile of its; null with the error when that fails.
     GVariantRef ask(const char* method, GVariant* arguments, const char* replyType, GLibError& error);
+    GVariantRef ask(NMRemoteConnection* profile, const char* method, GVariant* arguments,
+                    const char* replyType, GLibError& error);
     /// Whether the daemon still answers, and has told all that happened before.
     bool catchUp();
 
     GLibLoop& loop() { return m_view.loop; }
     QDeadlineTimer deadline() const { return m_deadline; }
+    /// For what only the daemon is waited for, also where the operation may wait for a person.
+    QDeadlineTimer daemonDeadline() const
+    {
+        return m_deadline.isForever() ? QDeadlineTimer(operationMilliseconds) : m_deadline;
+    }
     /// Lets the operation take that much longer, in milliseconds: it had to wait for somebody else.
     void extendDeadline(qint64 milliseconds) { m_deadline += milliseconds; }
     /// From now on the operation may wait for a person, and so for ever.
@@ -64,6 +73,8 @@ public:
 
 private:
     NMClient* connect();
+    GVariantRef call(const char* path, const char* interface, const char* method, GVariant* arguments,
+                     const char* replyType, GLibError& error);
 
     DaemonView& m_view;
     QDeadlineTimer m_deadline;

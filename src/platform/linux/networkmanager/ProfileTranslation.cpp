@@ -92,7 +92,8 @@ void changeIPv4(NMConnection* profile, const IPv4Configuration& configuration, c
     NMSettingIPConfig* ipv4 = ipv4Of(profile);
     const char* method =
         configuration.manual ? NM_SETTING_IP4_CONFIG_METHOD_MANUAL : NM_SETTING_IP4_CONFIG_METHOD_AUTO;
-    const bool isOther = QByteArrayView(nm_setting_ip_config_get_method(ipv4)) != method;
+    const bool isOther =
+        changes.contains(configMethodKey) && QByteArrayView(nm_setting_ip_config_get_method(ipv4)) != method;
     if (isOther || changes.contains(addressesKey) || changes.contains(subnetMasksKey)) {
         nm_setting_ip_config_clear_addresses(ipv4);
         for (const auto& [text, prefix] : configuration.addresses) {
@@ -102,7 +103,8 @@ void changeIPv4(NMConnection* profile, const IPv4Configuration& configuration, c
             nm_ip_address_unref(address);
         }
     }
-    g_object_set(ipv4, NM_SETTING_IP_CONFIG_METHOD, method, nullptr);
+    if (isOther)
+        g_object_set(ipv4, NM_SETTING_IP_CONFIG_METHOD, method, nullptr);
     if (isOther || changes.contains(routerKey)) {
         g_object_set(ipv4, NM_SETTING_IP_CONFIG_GATEWAY,
                      configuration.router ? configuration.router->toUtf8().constData() : nullptr, nullptr);
