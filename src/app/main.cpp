@@ -4,6 +4,7 @@
 #include "app/MenuBarExtra.h"
 #include "platform/linux/desktop/DesktopApplication.h"
 #include "platform/linux/desktop/DesktopWorkspace.h"
+#include "platform/linux/desktop/RemoteSession.h"
 #include "platform/linux/program/SystemChoice.h"
 #include "ui/elements/Symbol.h"
 
@@ -87,6 +88,8 @@ int main(int argc, char** argv)
     }
     platform.filePanels = std::make_unique<DesktopFilePanels>();
     platform.workspace = std::make_unique<DesktopWorkspace>();
+    if (*choice != SystemChoice::simulated)
+        platform.remoteInterface = [] { return remoteInterface(QDBusConnection::systemBus()); };
 
     const Appearance appearance;
     Ardeo_IPConfigApp app(platform);

@@ -4,6 +4,8 @@
 
 #include <QHashFunctions>
 
+#include <algorithm>
+#include <chrono>
 #include <optional>
 
 namespace ardeo
@@ -26,8 +28,17 @@ struct AdapterInfo {
     std::optional<qint64> linkSpeedMbps{};
     /// Known only while the link is up.
     std::optional<bool> fullDuplex{};
+    /// Until when a change of it that is on trial can be confirmed, in continuous time; none where none is.
+    std::optional<std::chrono::milliseconds> confirmBy{};
 
     const Text& id() const { return serviceName; }
+    /// How many seconds are left for that at the continuous time of now.
+    std::optional<qint64> secondsToConfirm(std::chrono::nanoseconds now) const
+    {
+        if (!confirmBy)
+            return std::nullopt;
+        return std::max<qint64>(0, std::chrono::ceil<std::chrono::seconds>(*confirmBy - now).count());
+    }
     bool operator==(const AdapterInfo&) const = default;
 };
 
@@ -38,7 +49,7 @@ inline size_t qHash(const AdapterInfo& adapter, size_t seed = 0)
                       adapter.bsdName.value_or(Text()), adapter.isActive, adapter.isEnabled,
                       adapter.isPersonal, adapter.linkSpeedMbps.has_value(),
                       adapter.linkSpeedMbps.value_or(0), adapter.fullDuplex.has_value(),
-                      adapter.fullDuplex.value_or(false));
+                      adapter.fullDuplex.value_or(false), adapter.confirmBy.has_value());
 }
 
 } // namespace ardeo

@@ -21,14 +21,6 @@ constexpr std::chrono::milliseconds followUpTime(50);
 /// third of the 1 % of a core that it would take otherwise.
 constexpr std::chrono::milliseconds quietTime(500);
 
-std::shared_ptr<NetworkService> findService(const Text& name, Preferences& preferences)
-{
-    auto service = serviceNamed(&preferences, name);
-    if (!service)
-        throw ConfigError::serviceNotFound(name);
-    return service;
-}
-
 /// What the system itself said of its last refusal.
 std::optional<SettingFault> refusalOf(const SystemConfiguration& system)
 {
@@ -36,38 +28,51 @@ std::optional<SettingFault> refusalOf(const SystemConfiguration& system)
     return reason.isEmpty() ? std::nullopt : std::optional(SettingFault{.value = {}, .reason = reason});
 }
 
-/// Unlocks the preferences on every way out of a transaction.
-class HeldLock
+/// Opens the preferences and locks them; the lock ends with what is returned.
+class Transaction
 {
 public:
-    explicit HeldLock(Preferences& preferences) : m_preferences(preferences) {}
-    HeldLock(const HeldLock&) = delete;
-    HeldLock& operator=(const HeldLock&) = delete;
-    ~HeldLock() { m_preferences.unlock(); }
+    Transaction(SystemConfiguration& system, AuthorizationRef authorization)
+        : m_preferences(system.createPreferencesWithAuthorization(clientName, authorization))
+    {
+        if (!m_preferences)
+            throw ConfigError::preferencesUnavailable();
+        if (!m_preferences->lock(true))
+            throw ConfigError::lockFailed(system.error());
+    }
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    ~Transaction() { m_preferences->unlock(); }
+
+    Preferences* operator->() const { return m_preferences.get(); }
+    std::shared_ptr<NetworkService> service(const Text& name) const
+    {
+        auto service = serviceNamed(m_preferences.get(), name);
+        if (!service)
+            throw ConfigError::serviceNotFound(name);
+        return service;
+    }
 
 private:
-    Preferences& m_preferences;
+    std::unique_ptr<Preferences> m_preferences;
 };
 
-/// The authorized, locked transaction around a change of one service. Where its settings are refused,
-/// faultFor says what is wrong with them.
+/// Makes a change of one service in a transaction of its own. Where its settings are refused, faultFor says
+/// what is wrong with them.
 template <typename Change, typename FaultFor>
 void changeService(SystemConfiguration& system, const Text& name, AuthorizationRef authorization,
-                   Change change, FaultFor faultFor)
+                   NetworkConfigService::Trial trial, Change change, FaultFor faultFor)
 {
-    const auto preferences = system.createPreferencesWithAuthorization(clientName, authorization);
-    if (!preferences)
-        throw ConfigError::preferencesUnavailable();
-    if (!preferences->lock(true))
-        throw ConfigError::lockFailed(system.error());
-    const HeldLock lock(*preferences);
-    const auto service = findService(name, *preferences);
+    const Transaction transaction(system, authorization);
+    if (trial)
+        transaction->beginTrial(*trial);
+    const auto service = transaction.service(name);
     change(*service);
-    if (!preferences->commitChanges()) {
+    if (!transaction->commitChanges()) {
         const bool isInvalid = system.error() == static_cast<qint32>(SystemStatus::invalidArgument);
         throw ConfigError::commitFailed(system.error(), isInvalid ? faultFor(*service) : refusalOf(system));
     }
-    if (!preferences->applyChanges())
+    if (!transaction->applyChanges())
         throw ConfigError::applyFailed(system.error(), refusalOf(system));
 }
 
@@ -168,24 +173,38 @@ QFuture<NetworkAdapterInfo> NetworkConfigService::currentConfig(const Text& serv
 QFuture<void> NetworkConfigService::writeConfiguration(const Text& serviceName,
                                                        const NetworkAdapterInfo& configuration,
                                                        AuthorizationRef authorization,
-                                                       std::optional<Settings> named)
+                                                       std::optional<Settings> named, Trial trial)
 {
-    return run([this, serviceName, configuration, authorization, named](Opened&) {
+    return run([this, serviceName, configuration, authorization, named, trial](Opened&) {
         changeService(
-            m_system, serviceName, authorization,
+            m_system, serviceName, authorization, trial,
             [&](const NetworkService& service) { writeTo(service, configuration, named); },
             [&](const NetworkService& service) { return faultFor(service, configuration, named); });
     });
 }
 
 QFuture<void> NetworkConfigService::setServiceEnabled(bool enabled, const Text& serviceName,
-                                                      AuthorizationRef authorization)
+                                                      AuthorizationRef authorization, Trial trial)
 {
-    return run([this, enabled, serviceName, authorization](Opened&) {
+    return run([this, enabled, serviceName, authorization, trial](Opened&) {
         changeService(
-            m_system, serviceName, authorization,
+            m_system, serviceName, authorization, trial,
             [enabled](NetworkService& service) { service.setEnabled(enabled); },
             [](const NetworkService&) { return std::nullopt; });
+    });
+}
+
+QFuture<void> NetworkConfigService::endTrial(bool keep, const Text& serviceName,
+                                             AuthorizationRef authorization)
+{
+    return run([this, keep, serviceName, authorization](Opened&) {
+        const Transaction transaction(m_system, authorization);
+        const QString serviceID = transaction.service(serviceName)->serviceID().value_or(QString());
+        if (transaction->endTrial(serviceID, keep))
+            return;
+        if (keep)
+            throw ConfigError::commitFailed(m_system.error(), refusalOf(m_system));
+        throw ConfigError::applyFailed(m_system.error(), refusalOf(m_system));
     });
 }
 

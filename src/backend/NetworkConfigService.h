@@ -34,12 +34,20 @@ public:
     QFuture<QList<AdapterInfo>> listAdapters();
     /// The service's configuration with its live state. What cannot be read is as in the empty record.
     QFuture<NetworkAdapterInfo> currentConfig(const Text& serviceName);
+    /// How long a change can be confirmed before the system takes it back; none for one that needs no
+    /// confirmation.
+    using Trial = std::optional<std::chrono::seconds>;
+
     /// Saves the record as the service's configuration, or of it what is named, and makes the system use it
     /// at once. The record's texts are handed on as they are. Fails with ConfigError.
     QFuture<void> writeConfiguration(const Text& serviceName, const NetworkAdapterInfo& configuration,
-                                     AuthorizationRef authorization, std::optional<Settings> named = {});
+                                     AuthorizationRef authorization, std::optional<Settings> named = {},
+                                     Trial trial = {});
     /// Switches the service on or off, also when it is so already. Fails with ConfigError.
-    QFuture<void> setServiceEnabled(bool enabled, const Text& serviceName, AuthorizationRef authorization);
+    QFuture<void> setServiceEnabled(bool enabled, const Text& serviceName, AuthorizationRef authorization,
+                                    Trial trial = {});
+    /// Confirms the change of the service that is on trial, or takes it back at once. Fails with ConfigError.
+    QFuture<void> endTrial(bool keep, const Text& serviceName, AuthorizationRef authorization);
 
     /// Whether changed is emitted from now on. While it is, the system is not left to rest.
     void followChanges(bool follow);

@@ -109,6 +109,7 @@ std::optional<AdapterInfo> makeAdapterInfo(const NetworkService& service, Dynami
     }
     adapter.isEnabled = service.isEnabled();
     adapter.isPersonal = service.isPersonal();
+    adapter.confirmBy = service.confirmBy();
     if (const auto live = serviceState(state, service.serviceID()))
         adapter.isActive = !textsIn(*live, addressesKey).isEmpty();
     const auto link = interfaceState(state, adapter.bsdName, QStringLiteral("/Link"));

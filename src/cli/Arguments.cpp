@@ -13,23 +13,30 @@ using Command = Arguments::Command;
 
 struct CommandForm {
     Command command;
-    /// What the command takes after its name; empty when nothing.
+    /// What the command takes after its name; empty when nothing, and in brackets when it may be left out.
     QString argument;
     QStringList options;
 };
 
+const QString confirmWithinOption = QStringLiteral("confirm-within");
+
+constexpr std::chrono::seconds shortestTrial(5);
+constexpr std::chrono::seconds longestTrial(3600);
+
 const QStringList applyOptions{
     QStringLiteral("dhcp"), QStringLiteral("address"), QStringLiteral("mask"),    QStringLiteral("router"),
-    QStringLiteral("dns"),  QStringLiteral("search"),  QStringLiteral("profile"),
+    QStringLiteral("dns"),  QStringLiteral("search"),  QStringLiteral("profile"), confirmWithinOption,
 };
 
 const QHash<QString, CommandForm> commandForms{
     {QStringLiteral("list"), {Command::list, {}, {QStringLiteral("json")}}},
     {QStringLiteral("show"), {Command::show, QStringLiteral("SERVICE"), {QStringLiteral("json")}}},
     {QStringLiteral("apply"), {Command::apply, QStringLiteral("SERVICE"), applyOptions}},
-    {QStringLiteral("renew"), {Command::renew, QStringLiteral("SERVICE"), {}}},
-    {QStringLiteral("enable"), {Command::enable, QStringLiteral("SERVICE"), {}}},
-    {QStringLiteral("disable"), {Command::disable, QStringLiteral("SERVICE"), {}}},
+    {QStringLiteral("renew"), {Command::renew, QStringLiteral("SERVICE"), {confirmWithinOption}}},
+    {QStringLiteral("enable"), {Command::enable, QStringLiteral("SERVICE"), {confirmWithinOption}}},
+    {QStringLiteral("disable"), {Command::disable, QStringLiteral("SERVICE"), {confirmWithinOption}}},
+    {QStringLiteral("confirm"), {Command::confirm, QStringLiteral("[SERVICE]"), {}}},
+    {QStringLiteral("undo"), {Command::undo, QStringLiteral("[SERVICE]"), {}}},
     {QStringLiteral("profiles"), {Command::profiles, {}, {QStringLiteral("json")}}},
     {QStringLiteral("profiles export"), {Command::exportProfiles, QStringLiteral("FILE"), {}}},
 };
@@ -46,7 +53,8 @@ QString takeWords(Arguments& arguments, QString& name, QStringList words)
     if (form == commandForms.constEnd())
         return QStringLiteral("There is no command '%1'; see ardeoctl --help.").arg(name);
     arguments.command = form->command;
-    if (!form->argument.isEmpty()) {
+    const bool isOptional = form->argument.startsWith(u'[');
+    if (!form->argument.isEmpty() && !(isOptional && words.isEmpty())) {
         if (words.isEmpty())
             return QStringLiteral("'%1' needs a %2.").arg(name, form->argument);
         const QString word = words.takeFirst();
@@ -84,6 +92,12 @@ QString takeSettings(Arguments& arguments, const QCommandLineParser& parser)
     arguments.router = valueOf(QStringLiteral("router"));
     arguments.search = valueOf(QStringLiteral("search"));
     arguments.profile = valueOf(QStringLiteral("profile"));
+    if (const auto time = valueOf(confirmWithinOption)) {
+        bool isNumber = false;
+        arguments.confirmWithin = std::chrono::seconds(time->toInt(&isNumber));
+        if (!isNumber || *arguments.confirmWithin < shortestTrial || *arguments.confirmWithin > longestTrial)
+            return QStringLiteral("--confirm-within takes 5 to 3600 seconds.");
+    }
     if (const auto dns = valueOf(QStringLiteral("dns"))) {
         arguments.automaticDNS = *dns == QStringLiteral("auto");
         if (!arguments.automaticDNS)
@@ -123,6 +137,7 @@ std::variant<Arguments, UsageError> parseArguments(const QStringList& commandLin
         {QStringLiteral("dns"), {}, text},
         {QStringLiteral("search"), {}, text},
         {QStringLiteral("profile"), {}, text},
+        {confirmWithinOption, {}, text},
         {{QStringLiteral("h"), QStringLiteral("help")}, {}},
         {{QStringLiteral("v"), QStringLiteral("version")}, {}},
     });
@@ -169,6 +184,8 @@ Commands:
   renew SERVICE                 put the service on DHCP and take a new lease
   enable SERVICE                switch the service on
   disable SERVICE               switch the service off, and keep it off
+  confirm [SERVICE]             keep what was changed on trial, of one service or of all
+  undo [SERVICE]                take it back at once
   profiles [--json]             the saved profiles
   profiles export FILE          write them to a file
 
@@ -179,6 +196,9 @@ Settings:
   --dns=auto                    take the DNS servers from the network
   --dns=A[,B]                   DNS servers set by hand
   --search="D D"                search domains, with DNS servers set by hand
+
+Trial (apply, renew, enable, disable):
+  --confirm-within=SECONDS      take the change back by itself unless it is confirmed in time
 
 Systems:
   --system=auto                 NetworkManager, with advice where it is not running (the default)

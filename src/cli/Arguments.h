@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+#include <chrono>
 #include <optional>
 #include <variant>
 
@@ -12,15 +13,30 @@ namespace ardeo
 
 /// What a command line asks for.
 struct Arguments {
-    enum class Command { help, version, list, show, apply, renew, enable, disable, profiles, exportProfiles };
+    enum class Command {
+        help,
+        version,
+        list,
+        show,
+        apply,
+        renew,
+        enable,
+        disable,
+        confirm,
+        undo,
+        profiles,
+        exportProfiles
+    };
 
     SystemChoice system = SystemChoice::automatic;
     /// The simulated machine's file, where one is named.
     std::optional<QString> stateFile;
     Command command = Command::help;
     bool json = false;
-    /// The service's name, for the commands that take one.
+    /// The service's name, for the commands that take one; empty where confirm and undo mean all.
     QString service;
+    /// How long a change can be confirmed before it is taken back; none for one that stays.
+    std::optional<std::chrono::seconds> confirmWithin;
     /// Where to export to.
     QString file;
 

@@ -2,7 +2,6 @@
 
 #include "backend/Errors.h"
 #include "cli/Output.h"
-#include "model/MainViewModel.h"
 
 #include <QFile>
 
@@ -25,7 +24,7 @@ struct Failure {
 [[noreturn]] void fail(const QString& error, const QString& reason = {}, int status = 1)
 {
     const QString text = reason.isEmpty() ? printable(error) : printable(error) + u'\n' + printable(reason);
-    throw Failure{{.status = status, .output = {}, .error = text, .changed = false, .remains = {}}};
+    throw Failure{{.status = status, .output = {}, .error = text, .changed = false, .model = {}}};
 }
 
 [[noreturn]] void failUsage(const QString& error)
@@ -49,7 +48,8 @@ public:
     {
         listServices();
         const auto adapters = m_model->adapters.value();
-        return m_arguments.json ? adaptersAsJson(adapters) : adaptersAsTable(adapters, m_colour).toUtf8();
+        return m_arguments.json ? adaptersAsJson(adapters, now())
+                                : adaptersAsTable(adapters, now(), m_colour).toUtf8();
     }
 
     QByteArray show()
@@ -64,19 +64,40 @@ public:
         select();
         if (preset)
             m_model->loadPreset(*preset);
-        return act(m_model->applyConfiguration(preset ? std::nullopt : std::optional(takeSettings())));
+        const auto named = preset ? std::nullopt : std::optional(takeSettings());
+        return act(m_model->applyConfiguration(named, m_arguments.confirmWithin));
     }
 
     QByteArray renew()
     {
         select();
-        return act(m_model->renewDHCPLease());
+        return act(m_model->renewDHCPLease(m_arguments.confirmWithin));
     }
 
     QByteArray setEnabled(bool enabled)
     {
         select();
-        return act(m_model->setAdapterEnabled(enabled));
+        return act(m_model->setAdapterEnabled(enabled, m_arguments.confirmWithin));
+    }
+
+    QByteArray endTrials(bool keep)
+    {
+        listServices();
+        const QList<AdapterInfo> adapters = m_model->adapters.value();
+        if (!m_arguments.service.isEmpty())
+            named(adapters);
+        QByteArray output;
+        for (const AdapterInfo& adapter : adapters) {
+            const bool isMeant =
+                m_arguments.service.isEmpty() || adapter.serviceName == Text(m_arguments.service);
+            if (!adapter.confirmBy || !isMeant)
+                continue;
+            QCoro::waitFor(m_model->selectAdapter(adapter));
+            output += act(m_model->endTrial(keep));
+        }
+        if (output.isEmpty())
+            fail(QStringLiteral("No change awaits confirmation."));
+        return output;
     }
 
     QByteArray profiles()
@@ -115,16 +136,22 @@ private:
         throwTrouble();
     }
 
+    /// The service that the command line names.
+    AdapterInfo named(const QList<AdapterInfo>& adapters) const
+    {
+        const auto service =
+            std::ranges::find(adapters, Text(m_arguments.service), &AdapterInfo::serviceName);
+        if (service == adapters.end())
+            fail(ConfigError::serviceNotFound(m_arguments.service).errorDescription());
+        return *service;
+    }
+
     /// Selects the named service and reads it. What is read here is what an apply leaves as it is, so a read
     /// that failed must not pass for an empty configuration.
     void select()
     {
         listServices();
-        const auto adapters = m_model->adapters.value();
-        const auto named = std::ranges::find(adapters, Text(m_arguments.service), &AdapterInfo::serviceName);
-        if (named == adapters.end())
-            fail(ConfigError::serviceNotFound(m_arguments.service).errorDescription());
-        QCoro::waitFor(m_model->selectAdapter(*named));
+        QCoro::waitFor(m_model->selectAdapter(named(m_model->adapters.value())));
         throwTrouble();
     }
 
@@ -207,8 +234,10 @@ private:
         const auto configuration = m_model->currentConfig.value();
         const auto adapter = m_model->selectedAdapter.value().value_or(AdapterInfo());
         return m_arguments.json ? configurationAsJson(configuration)
-                                : configurationAsTable(adapter, configuration, m_colour).toUtf8();
+                                : configurationAsTable(adapter, configuration, now(), m_colour).toUtf8();
     }
+
+    std::chrono::nanoseconds now() const { return m_platform.clock->continuousTime(); }
 
     QByteArray encoded() const
     {
@@ -227,7 +256,7 @@ private:
 bool isChange(Command command)
 {
     return command == Command::apply || command == Command::renew || command == Command::enable ||
-           command == Command::disable;
+           command == Command::disable || command == Command::confirm || command == Command::undo;
 }
 
 QByteArray outputOf(const Arguments& arguments, Run run)
@@ -245,6 +274,10 @@ QByteArray outputOf(const Arguments& arguments, Run run)
         return run.setEnabled(true);
     case Command::disable:
         return run.setEnabled(false);
+    case Command::confirm:
+        return run.endTrials(true);
+    case Command::undo:
+        return run.endTrials(false);
     case Command::profiles:
         return run.profiles();
     case Command::exportProfiles:
@@ -273,7 +306,7 @@ Outcome runCommand(const Arguments& arguments, Platform& platform, bool colour,
     } catch (const Failure& failure) {
         outcome = failure.outcome;
     }
-    outcome.remains = model;
+    outcome.model = model;
     return outcome;
 }
 

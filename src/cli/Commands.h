@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/Arguments.h"
-#include "platform/Platform.h"
+#include "model/MainViewModel.h"
 
 namespace ardeo
 {
@@ -14,9 +14,9 @@ struct Outcome {
     QString error;
     /// Whether something was changed, so that the command has succeeded even if nobody can read its output.
     bool changed = false;
-    /// What the command has worked with. To clear it away can take long, which a program that ends anyway
-    /// need not wait for.
-    std::shared_ptr<void> remains;
+    /// What the command has worked with; null where it has not begun. To clear it away can take long, which a
+    /// program that ends anyway need not wait for.
+    std::shared_ptr<MainViewModel> model;
 };
 
 /// Runs a command on the platform and returns when it has ended.

@@ -68,11 +68,14 @@ QString orDash(const QString& text)
     return text.isEmpty() ? QStringLiteral("—") : text;
 }
 
-Cell stateOf(const AdapterInfo& adapter)
+Cell stateOf(const AdapterInfo& adapter, std::chrono::nanoseconds now)
 {
+    const auto seconds = adapter.secondsToConfirm(now);
+    const QString trial = seconds ? QStringLiteral(", %1 s to confirm").arg(*seconds) : QString();
     if (adapter.isActive)
-        return {QStringLiteral("connected"), Tint::good};
-    return {adapter.isEnabled ? QStringLiteral("disconnected") : QStringLiteral("disabled"), Tint::faint};
+        return {QStringLiteral("connected") + trial, Tint::good};
+    const QString state = adapter.isEnabled ? QStringLiteral("disconnected") : QStringLiteral("disabled");
+    return {state + trial, Tint::faint};
 }
 
 QString linkOf(const AdapterInfo& adapter)
@@ -113,7 +116,7 @@ QString printable(QString text)
     return text;
 }
 
-QString adaptersAsTable(const QList<AdapterInfo>& adapters, bool colour)
+QString adaptersAsTable(const QList<AdapterInfo>& adapters, std::chrono::nanoseconds now, bool colour)
 {
     if (adapters.isEmpty())
         return QStringLiteral("No network services.\n");
@@ -127,7 +130,7 @@ QString adaptersAsTable(const QList<AdapterInfo>& adapters, bool colour)
     }};
     for (const AdapterInfo& adapter : adapters) {
         rows.append({{adapter.serviceName, Tint::strong},
-                     stateOf(adapter),
+                     stateOf(adapter, now),
                      {orDash(adapter.bsdName.value_or(Text()))},
                      {orDash(adapter.macAddress.value_or(Text()))},
                      {orDash(linkOf(adapter))},
@@ -136,12 +139,13 @@ QString adaptersAsTable(const QList<AdapterInfo>& adapters, bool colour)
     return table(rows, colour);
 }
 
-QString configurationAsTable(const AdapterInfo& adapter, const NetworkAdapterInfo& configuration, bool colour)
+QString configurationAsTable(const AdapterInfo& adapter, const NetworkAdapterInfo& configuration,
+                             std::chrono::nanoseconds now, bool colour)
 {
     const bool automatic = configuration.dnsMode == DNSMode::automatic;
     const QStringList domains(configuration.searchDomains.begin(), configuration.searchDomains.end());
     const QList<std::pair<QString, Cell>> fields{
-        {QStringLiteral("State:"), stateOf(adapter)},
+        {QStringLiteral("State:"), stateOf(adapter, now)},
         {QStringLiteral("Mode:"), {rawValue(configuration.ipv4Mode)}},
         {QStringLiteral("IP Address:"), {orDash(configuration.ipAddress)}},
         {QStringLiteral("Subnet Mask:"), {orDash(configuration.subnetMask)}},
@@ -181,7 +185,7 @@ QString presetsAsTable(const QList<NetworkPreset>& presets, bool colour)
     return table(rows, colour);
 }
 
-QByteArray adaptersAsJson(const QList<AdapterInfo>& adapters)
+QByteArray adaptersAsJson(const QList<AdapterInfo>& adapters, std::chrono::nanoseconds now)
 {
     Json array = Json::array();
     for (const AdapterInfo& adapter : adapters) {
@@ -195,6 +199,8 @@ QByteArray adaptersAsJson(const QList<AdapterInfo>& adapters)
             {"linkSpeedMbps", valueAsJson(adapter.linkSpeedMbps)},
             {"fullDuplex", valueAsJson(adapter.fullDuplex)},
         });
+        if (const auto seconds = adapter.secondsToConfirm(now))
+            array.back()["secondsToConfirm"] = *seconds;
     }
     return printed(array);
 }

@@ -4,6 +4,8 @@
 #include "backend/NetworkAdapterInfo.h"
 #include "backend/NetworkPreset.h"
 
+#include <chrono>
+
 namespace ardeo
 {
 
@@ -12,13 +14,16 @@ QString printable(QString text);
 
 // What the commands print, each ending in a line break. Colour is for terminals.
 
-QString adaptersAsTable(const QList<AdapterInfo>& adapters, bool colour);
+// Now is the continuous time, which says how long a change on trial can still be confirmed.
+
+QString adaptersAsTable(const QList<AdapterInfo>& adapters, std::chrono::nanoseconds now, bool colour);
 QString configurationAsTable(const AdapterInfo& adapter, const NetworkAdapterInfo& configuration,
-                             bool colour);
+                             std::chrono::nanoseconds now, bool colour);
 QString presetsAsTable(const QList<NetworkPreset>& presets, bool colour);
 
-/// An array of objects with the field names of AdapterInfo, but for what only the program needs to know.
-QByteArray adaptersAsJson(const QList<AdapterInfo>& adapters);
+/// An array of objects with the field names of AdapterInfo, but for what only the program needs to know; one
+/// with a change on trial says how many seconds are left to confirm it.
+QByteArray adaptersAsJson(const QList<AdapterInfo>& adapters, std::chrono::nanoseconds now);
 /// An object with the field names of NetworkAdapterInfo.
 QByteArray configurationAsJson(const NetworkAdapterInfo& configuration);
 

@@ -1,6 +1,7 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Output.h"
+#include "cli/TrialGuard.h"
 #include "platform/linux/program/SystemChoice.h"
 
 #include <QCoreApplication>
@@ -28,20 +29,19 @@ void printError(const QString& line)
 }
 
 /// Leaves the platform that the command ran on in platform.
-Outcome outcomeOf(const QStringList& commandLine, bool colour, std::optional<Platform>& platform)
+Outcome outcomeOf(const std::variant<Arguments, UsageError>& parsed, bool colour,
+                  std::optional<Platform>& platform)
 {
-    const auto parsed = parseArguments(commandLine);
     if (const auto* wrong = std::get_if<UsageError>(&parsed))
-        return {
-            .status = 2, .output = {}, .error = printable(wrong->message), .changed = false, .remains = {}};
+        return {.status = 2, .output = {}, .error = printable(wrong->message), .changed = false, .model = {}};
     const auto& arguments = std::get<Arguments>(parsed);
     if (arguments.command == Arguments::Command::help)
-        return {.status = 0, .output = helpText().toUtf8(), .error = {}, .changed = false, .remains = {}};
+        return {.status = 0, .output = helpText().toUtf8(), .error = {}, .changed = false, .model = {}};
     platform = platformFor(arguments.system, arguments.stateFile, windowProgram());
     if (arguments.command == Arguments::Command::version) {
         const QString text =
             QStringLiteral("ardeoctl %1 on %2\n").arg(QStringLiteral(ARDEO_VERSION), platform->description);
-        return {.status = 0, .output = text.toUtf8(), .error = {}, .changed = false, .remains = {}};
+        return {.status = 0, .output = text.toUtf8(), .error = {}, .changed = false, .model = {}};
     }
     return runCommand(arguments, *platform, colour, printError);
 }
@@ -51,10 +51,18 @@ Outcome outcomeOf(const QStringList& commandLine, bool colour, std::optional<Pla
 int main(int argc, char** argv)
 {
     std::signal(SIGPIPE, SIG_IGN); // a reader that goes away is told of like a full disk
+    QStringList commandLine;
+    for (int i = 0; i < argc; ++i)
+        commandLine << QString::fromLocal8Bit(argv[i]);
+    const auto parsed = parseArguments(commandLine);
+    const auto* arguments = std::get_if<Arguments>(&parsed);
+    std::optional<TrialGuard> guard;
+    if (arguments && arguments->confirmWithin)
+        guard.emplace();
     const QCoreApplication application(argc, argv);
     const bool colour = isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR");
     std::optional<Platform> platform;
-    const Outcome outcome = outcomeOf(QCoreApplication::arguments(), colour, platform);
+    const Outcome outcome = outcomeOf(parsed, colour, platform);
     if (!outcome.error.isEmpty())
         printError(outcome.error);
     const auto size = static_cast<size_t>(outcome.output.size());
@@ -62,6 +70,8 @@ int main(int argc, char** argv)
         std::fwrite(outcome.output.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
     if (!written)
         printError(QStringLiteral("Cannot write the output: %1.").arg(qt_error_string(errno)));
+    if (guard && outcome.changed)
+        guard->watch(outcome.model);
     // The model has a look at the network scheduled for three seconds after a change, and clears away what it
     // has read; nobody waits for either here.
     std::_Exit(written || outcome.changed ? outcome.status : 1);

@@ -1,9 +1,6 @@
 #include "model/MainViewModel.h"
 
-#include "backend/Errors.h"
-
 #include <QCoroFuture>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <utility>
@@ -14,38 +11,9 @@ namespace ardeo
 namespace
 {
 
-using namespace std::chrono_literals;
-
-constexpr auto applyDelay = 1s;
-constexpr auto followUpDelay = 3s;
-constexpr auto enableDelay = 500ms;
-constexpr auto waitingDelay = 500ms;
-
-/// The domains in a text that separates them by blanks, of any kind that does not end a line.
-QList<Text> splitDomains(const QString& text)
-{
-    QList<Text> domains;
-    QString domain;
-    for (const QChar c : text + u' ') {
-        if (c.category() != QChar::Separator_Space && c != u'\t') {
-            domain += c;
-        } else if (!domain.isEmpty()) {
-            domains.append(domain);
-            domain.clear();
-        }
-    }
-    return domains;
-}
-
 QString joinDomains(const QList<Text>& domains)
 {
     return QStringList(domains.begin(), domains.end()).join(u' ');
-}
-
-std::optional<AdapterInfo> serviceIn(const QList<AdapterInfo>& listed, const Text& name)
-{
-    const auto found = std::ranges::find(listed, name, &AdapterInfo::serviceName);
-    return found != listed.end() ? std::optional(*found) : std::nullopt;
 }
 
 /// What is selected when the user has not chosen yet.
@@ -89,8 +57,15 @@ MainViewModel::MainViewModel(Key, Platform& platform)
         if (m_hasChanged && !isBusy())
             noteChange();
     };
+    m_selectionChanges = selectedAdapter.addNotifier([this] { countDown(); });
     m_loadingEnds = isLoading.addNotifier(noteAgain);
     m_applyingEnds = isApplying.addNotifier(noteAgain);
+}
+
+std::optional<AdapterInfo> MainViewModel::serviceIn(const QList<AdapterInfo>& listed, const Text& name)
+{
+    const auto found = std::ranges::find(listed, name, &AdapterInfo::serviceName);
+    return found != listed.end() ? std::optional(*found) : std::nullopt;
 }
 
 bool MainViewModel::hasChanges() const
@@ -167,6 +142,7 @@ void MainViewModel::follow(const QObject* viewer, bool isShown)
         m_viewers.remove(viewer);
     if (wasFollowed != !m_viewers.isEmpty())
         configService.followChanges(!wasFollowed);
+    countDown();
 }
 
 /// Reads again at once, or when what is being read or changed has come to its end.
@@ -260,168 +236,6 @@ void MainViewModel::revertForm()
 {
     populateForm(currentConfig.value());
     clearFeedback();
-}
-
-QCoro::Task<> MainViewModel::applyConfiguration(std::optional<Settings> named)
-{
-    return write({.ipv4Mode = ipv4Mode.value(),
-                  .ipAddress = ipAddress.value(),
-                  .subnetMask = subnetMask.value(),
-                  .router = router.value(),
-                  .dnsMode = dnsMode.value(),
-                  .primaryDNS = primaryDNS.value(),
-                  .alternateDNS = alternateDNS.value(),
-                  .searchDomains = splitDomains(searchDomains.value()),
-                  .dhcpServer = {},
-                  .computerName = {}},
-                 named);
-}
-
-QCoro::Task<> MainViewModel::renewDHCPLease()
-{
-    NetworkAdapterInfo configuration;
-    configuration.ipv4Mode = IPv4Mode::dhcp;
-    return write(configuration, Setting::ipv4Mode);
-}
-
-QCoro::Task<> MainViewModel::write(NetworkAdapterInfo configuration, std::optional<Settings> named)
-{
-    const auto self = shared_from_this();
-    const Change change = [this, configuration, named](const Text& serviceName,
-                                                       AuthorizationRef authorization) {
-        return configService.writeConfiguration(serviceName, configuration, authorization, named);
-    };
-    co_await carryOut(change, applyDelay, true);
-    // After a failure it is set only if another action has succeeded in between.
-    if (applySuccess.value())
-        scheduleFollowUpRefresh();
-}
-
-QCoro::Task<> MainViewModel::setAdapterEnabled(bool enabled)
-{
-    const auto self = shared_from_this();
-    const Change change = [this, enabled](const Text& serviceName, AuthorizationRef authorization) {
-        return configService.setServiceEnabled(enabled, serviceName, authorization);
-    };
-    co_await carryOut(change, enableDelay, false);
-}
-
-void MainViewModel::clearFeedback()
-{
-    applyError = std::nullopt;
-    applyFault = std::nullopt;
-    applySuccess = false;
-}
-
-void MainViewModel::tellError(const QString& sentence, const std::optional<SettingFault>& fault)
-{
-    applyFault = fault;
-    applyError = Text(sentence);
-}
-
-/// Obtains the right, makes the change of the selected service, and refreshes when the network has had time
-/// to settle.
-QCoro::Task<> MainViewModel::carryOut(Change change, std::chrono::milliseconds settlingTime,
-                                      bool tellsSuccess)
-{
-    const auto self = shared_from_this();
-    const std::optional<AdapterInfo> adapter = selectedAdapter.value();
-    if (!adapter)
-        co_return;
-    isApplying = true;
-    clearFeedback();
-    try {
-        const QLatin1String right(adapter->isPersonal ? personalNetworkRight : systemNetworkRight);
-        co_await change(adapter->serviceName, authService.authorize(right));
-    } catch (const DescribedError& error) {
-        const auto* refusal = dynamic_cast<const ConfigError*>(&error);
-        tellError(error.errorDescription(), refusal ? refusal->fault() : std::nullopt);
-        authService.invalidate();
-        isApplying = false;
-        co_return;
-    }
-    co_await m_platform.clock->sleep(settlingTime);
-    co_await refreshAdapters();
-    if (tellsSuccess)
-        applySuccess = true;
-    isApplying = false;
-}
-
-QCoro::Task<> MainViewModel::scheduleFollowUpRefresh()
-{
-    const auto self = shared_from_this();
-    co_await m_platform.clock->sleep(followUpDelay);
-    co_await refreshAdapters();
-}
-
-/// Most changes are made in less time than anybody needs to read who makes them.
-QCoro::Task<> MainViewModel::noteWaiting(std::optional<LockHolder> holder)
-{
-    const auto self = shared_from_this();
-    const int number = ++m_waits;
-    if (holder)
-        co_await m_platform.clock->sleep(waitingDelay);
-    if (number == m_waits)
-        waitsFor = holder;
-}
-
-void MainViewModel::savePreset(const Text& name)
-{
-    const std::optional<AdapterInfo> adapter = selectedAdapter.value();
-    if (!adapter)
-        return;
-    presetStore.upsert({
-        .id = QUuid::createUuid(),
-        .name = name,
-        .serviceName = adapter->serviceName,
-        .ipv4Mode = ipv4Mode.value(),
-        .ipAddress = ipAddress.value(),
-        .subnetMask = subnetMask.value(),
-        .router = router.value(),
-        .dnsMode = dnsMode.value(),
-        .primaryDNS = primaryDNS.value(),
-        .alternateDNS = alternateDNS.value(),
-        .searchDomains = searchDomains.value(),
-    });
-}
-
-bool MainViewModel::exportPresets() const
-{
-    const auto place = m_platform.filePanels->askWhereToSave(
-        QStringLiteral("Ardeo IP Config.profiles"), QStringLiteral("Export Ardeo IP Config profiles"));
-    if (!place)
-        return true;
-    if (presetStore.isUnreadable())
-        return false;
-    const auto bytes = encodePresets(presetStore.presets());
-    QFile file(*place);
-    return bytes && file.open(QIODevice::WriteOnly) && file.write(*bytes) == bytes->size() && file.flush();
-}
-
-void MainViewModel::importPresets()
-{
-    const auto place = m_platform.filePanels->askWhatToOpen(
-        QStringLiteral("Select an Ardeo IP Config profiles file (.profiles)"));
-    if (!place)
-        return;
-    QFile file(*place);
-    std::optional<QList<NetworkPreset>> presets;
-    // Reading from anything but a file could wait for ever.
-    if (QFileInfo(*place).isFile() && file.open(QIODevice::ReadOnly))
-        presets = decodePresets(file.readAll());
-    if (presets)
-        presetStore.upsertAll(*presets);
-    else
-        tellError(QStringLiteral("Could not read profiles file."));
-}
-
-void MainViewModel::toggleLoginItem()
-{
-    LoginItem& item = *m_platform.loginItem;
-    const auto failure = isLoginItem.value() ? item.unregisterItem() : item.registerItem();
-    if (failure)
-        tellError(QStringLiteral("Start at login: ") + *failure);
-    isLoginItem = item.status() == LoginItem::Status::enabled;
 }
 
 } // namespace ardeo

@@ -63,6 +63,11 @@ public:
     /// The program that keeps the running action waiting, once it has done so for half a second.
     Observed<std::optional<LockHolder>> waitsFor;
     Observed<bool> isLoginItem;
+    /// How many seconds are left to confirm a change of the selected service that is on trial; none where none
+    /// is. Counted down while somebody shows the model.
+    Observed<std::optional<qint64>> secondsToConfirm;
+    /// How many changes on trial are taken back by this model when nobody confirms them.
+    Observed<int> guardedTrials{0};
 
     /// Whether the form differs from what was last read; the search domains are not compared.
     bool hasChanges() const;
@@ -86,14 +91,19 @@ public:
     /// Fills the form with what was last read.
     void revertForm();
 
+    // A change on trial is taken back by itself unless endTrial confirms it in time.
+    using Trial = NetworkConfigService::Trial;
+
     /// Writes the form, or of it what is named, to the selected service, reads it again after a second, and
-    /// once more three seconds later.
-    QCoro::Task<> applyConfiguration(std::optional<Settings> named = {});
+    /// once more three seconds later. On trial, too, where the user works on this computer over that service.
+    QCoro::Task<> applyConfiguration(std::optional<Settings> named = {}, Trial trial = {});
     /// Puts the selected service on DHCP, which takes a new lease; its DNS configuration and the form's edits
     /// have no part in it. Reads it again as after an apply.
-    QCoro::Task<> renewDHCPLease();
+    QCoro::Task<> renewDHCPLease(Trial trial = {});
     /// Switches the selected service on or off, and reads it again after half a second.
-    QCoro::Task<> setAdapterEnabled(bool enabled);
+    QCoro::Task<> setAdapterEnabled(bool enabled, Trial trial = {});
+    /// Confirms the change of the selected service that is on trial, or takes it back at once.
+    QCoro::Task<> endTrial(bool keep);
 
     /// Saves the form as a new profile of the selected service; does nothing where none is selected.
     void savePreset(const Text& name);
@@ -112,14 +122,24 @@ public:
 private:
     /// Starts a change of the service with the consent.
     using Change = std::function<QFuture<void>(const Text& serviceName, AuthorizationRef authorization)>;
+    struct Action {
+        Change change;
+        /// None where no trial takes part in it.
+        Trial trial;
+        std::chrono::milliseconds settlingTime;
+        bool tellsSuccess;
+    };
 
     template <typename Source>
     void fillForm(const Source& settings, const Text& domains);
-    QCoro::Task<> write(NetworkAdapterInfo configuration, std::optional<Settings> named);
+    QCoro::Task<> write(NetworkAdapterInfo configuration, std::optional<Settings> named, Trial trial);
+    static std::optional<AdapterInfo> serviceIn(const QList<AdapterInfo>& listed, const Text& name);
     void takeListed(const QList<AdapterInfo>& listed);
     void clearFeedback();
     void tellError(const QString& sentence, const std::optional<SettingFault>& fault = {});
-    QCoro::Task<> carryOut(Change change, std::chrono::milliseconds settlingTime, bool tellsSuccess);
+    QCoro::Task<> carryOut(Action action);
+    QCoro::Task<> guardTrial(Text serviceName, std::chrono::seconds time, AuthorizationRef authorization);
+    QCoro::Task<> countDown();
     QCoro::Task<> scheduleFollowUpRefresh();
     QCoro::Task<> noteWaiting(std::optional<LockHolder> holder);
     QCoro::Task<> noteChange();
@@ -133,6 +153,8 @@ private:
     QSet<const QObject*> m_viewers;
     bool m_hasChanged = false;
     bool m_isReadingAgain = false;
+    bool m_isCountingDown = false;
+    QPropertyNotifier m_selectionChanges;
     QPropertyNotifier m_loadingEnds;
     QPropertyNotifier m_applyingEnds;
 };

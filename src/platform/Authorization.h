@@ -8,6 +8,8 @@ namespace ardeo
 /// The right to change the services of everybody, and the one to change those that are the user's alone.
 inline constexpr auto systemNetworkRight = "system.preferences.network";
 inline constexpr auto personalNetworkRight = "user.preferences.network";
+/// The right to have a change taken back by itself, and to end its trial.
+inline constexpr auto trialRight = "system.preferences.network.trial";
 
 /// How a right is asked for; flags to be combined.
 enum AuthorizationFlags : quint32 {

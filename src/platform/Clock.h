@@ -7,7 +7,7 @@
 namespace ardeo
 {
 
-/// Time, so that a test can drive it by hand. Used from the main thread.
+/// Time, so that a test can drive it by hand. Used from the main thread; what time it is can be asked on any.
 class Clock
 {
 public:

@@ -38,6 +38,9 @@ struct Platform {
     QString description;
     /// Why the system could not be reached the last time it was asked; none when it answered.
     std::function<std::optional<Trouble>()> trouble = [] { return std::nullopt; };
+    /// The interface (eth0, for example) over which whoever uses the program reaches this computer; none
+    /// where they sit before it.
+    std::function<std::optional<QString>()> remoteInterface = [] { return std::nullopt; };
 };
 
 /// What the program is called wherever the system wants a unique name for it.

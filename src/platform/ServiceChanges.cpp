@@ -37,6 +37,16 @@ bool ServiceChanges::askForLease() const
     return ipv4 && (ipv4->contains(configMethodKey) || !changeSettings());
 }
 
+QString trialReason()
+{
+    return QStringLiteral("An earlier change of it awaits confirmation.");
+}
+
+QString noTrialReason()
+{
+    return QStringLiteral("No change of it awaits confirmation.");
+}
+
 Dictionary changed(Dictionary settings, const Dictionary& changes)
 {
     if (changes.contains(configMethodKey) &&

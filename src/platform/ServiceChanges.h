@@ -21,6 +21,10 @@ struct ServiceChanges {
     bool askForLease() const;
 };
 
+/// Why a change of a service is refused while one of it awaits confirmation, and why none can be ended.
+QString trialReason();
+QString noTrialReason();
+
 /// The settings with the changes made.
 Dictionary changed(Dictionary settings, const Dictionary& changes);
 

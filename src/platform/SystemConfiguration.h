@@ -79,6 +79,8 @@ public:
     virtual bool isPersonal() const { return false; }
     /// Takes effect with commit and apply, like a changed protocol configuration.
     virtual bool setEnabled(bool enabled) = 0;
+    /// Until when a change of it that is on trial can be confirmed, in continuous time; none where none is.
+    virtual std::optional<std::chrono::milliseconds> confirmBy() const { return std::nullopt; }
     /// Null for a service without an interface.
     virtual std::shared_ptr<NetworkInterface> interface() const = 0;
     /// The protocol of the given type ("IPv4", "DNS"); null where the service does not have it.
@@ -112,6 +114,11 @@ public:
     virtual bool commitChanges() = 0;
     /// Makes the running system take what was committed.
     virtual bool applyChanges() = 0;
+    /// Has the system take back by itself what is committed and applied from now on, on disk and on the
+    /// network, unless it is confirmed within that time; also when whoever asked for it is gone by then.
+    virtual void beginTrial(std::chrono::seconds time) = 0;
+    /// Confirms the change of the service that is on trial, or takes it back at once.
+    virtual bool endTrial(const QString& serviceID, bool keep) = 0;
     virtual bool unlock() = 0;
 };
 

@@ -27,6 +27,7 @@ public:
         QMap<QString, std::optional<QVariant>> protocols = {{u"IPv4"_s, std::nullopt},
                                                             {u"DNS"_s, std::nullopt}};
         bool personal = false;
+        std::optional<std::chrono::milliseconds> confirmBy = {};
     };
 
     bool preferencesAvailable = true;
@@ -118,6 +119,7 @@ private:
         std::optional<QString> serviceID() const override { return service.id; }
         bool isEnabled() const override { return service.enabled; }
         bool isPersonal() const override { return service.personal; }
+        std::optional<std::chrono::milliseconds> confirmBy() const override { return service.confirmBy; }
         bool setEnabled(bool enabled) override
         {
             service.enabled = enabled;
@@ -166,6 +168,11 @@ private:
         }
         bool commitChanges() override { return system.step(u"commit"_s); }
         bool applyChanges() override { return system.step(u"apply"_s); }
+        void beginTrial(std::chrono::seconds time) override { system.step(u"try %1 s"_s.arg(time.count())); }
+        bool endTrial(const QString& serviceID, bool keep) override
+        {
+            return system.step((keep ? u"keep "_s : u"take back "_s) + serviceID);
+        }
         bool unlock() override { return system.step(u"unlock"_s); }
         FakeSystemConfiguration& system;
     };

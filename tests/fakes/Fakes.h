@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QPromise>
 
+#include <atomic>
+
 namespace ardeo
 {
 
@@ -17,23 +19,23 @@ public:
     QList<qint64> asked;
 
     std::chrono::nanoseconds continuousTime() const override { return m_now; }
-    double referenceTime() const override { return 800e6 + std::chrono::duration<double>(m_now).count(); }
+    double referenceTime() const override { return 800e6 + std::chrono::duration<double>(continuousTime()).count(); }
     QFuture<void> sleep(std::chrono::milliseconds duration) override
     {
         auto promise = std::make_shared<QPromise<void>>();
         promise->start();
-        m_sleepers.append({m_now + duration, promise});
+        m_sleepers.append({continuousTime() + duration, promise});
         asked.append(duration.count());
         return promise->future();
     }
     qsizetype sleepers() const { return m_sleepers.size(); }
     void advance(std::chrono::milliseconds duration)
     {
-        m_now += duration;
+        m_now = continuousTime() + duration;
         m_sleepers.removeIf([this](const Sleeper& sleeper) {
-            if (sleeper.until <= m_now)
+            if (sleeper.until <= continuousTime())
                 sleeper.promise->finish();
-            return sleeper.until <= m_now;
+            return sleeper.until <= continuousTime();
         });
     }
 
@@ -42,7 +44,7 @@ private:
         std::chrono::nanoseconds until;
         std::shared_ptr<QPromise<void>> promise;
     };
-    std::chrono::nanoseconds m_now{};
+    std::atomic<std::chrono::nanoseconds> m_now{}; // the worker asks too
     QList<Sleeper> m_sleepers;
 };
 

@@ -2,6 +2,7 @@
 #include "backend/NetworkConfigService.h"
 #include "backend/NetworkPreset.h"
 #include "fakes/FakeSystemConfiguration.h"
+#include "fakes/Fakes.h"
 #include "platform/ProtocolConfiguration.h"
 #include "platform/simulated/SimulatedConfiguration.h"
 #include "ui/elements/IPAddressField.h"
@@ -91,7 +92,8 @@ void machine(const QByteArray& input)
 {
     static const QTemporaryDir folder;
     static QFile file(folder.filePath(u"machine.json"_s));
-    static SimulatedConfiguration system{SimulatedMachine(file.fileName())};
+    static const FakeClock clock;
+    static SimulatedConfiguration system(SimulatedMachine(file.fileName()), clock);
     static NetworkConfigService service(system);
     promise(file.open(QIODevice::WriteOnly) && file.write(input) == input.size());
     file.close();

@@ -40,10 +40,9 @@ struct Fixture : FakePlatform {
         return (*system->services)[1].protocols[protocol]->toMap();
     }
     /// Starts an action and lets it run until it waits for the clock or has ended.
-    template <typename Action, typename... Arguments>
-    void start(Action action, Arguments... arguments)
+    void start(const std::function<QCoro::Task<>()>& action)
     {
-        (model.get()->*action)(arguments...);
+        action();
         settle();
     }
     void settle() { QTRY_VERIFY(clock->sleepers() > 0 || !model->isApplying.value()); }
@@ -155,7 +154,7 @@ private Q_SLOTS:
     {
         Fixture fixture(false);
         MainViewModel& model = *fixture.model;
-        fixture.start(&MainViewModel::applyConfiguration, std::nullopt);
+        fixture.start([&] { return fixture.model->applyConfiguration(); });
         QCOMPARE(fixture.authorization->prompts, 0); // nothing selected yet, nothing happens
         QCoro::waitFor(model.loadAdapters());
         model.ipv4Mode = IPv4Mode::manual;
@@ -165,7 +164,7 @@ private Q_SLOTS:
         model.alternateDNS = u"9.9.9.9"_s;
         model.searchDomains = u"  corp.example\t\tlab.example\u2003x\ny  "_s;
         model.applyError = Text(u"old"_s);
-        fixture.start(&MainViewModel::applyConfiguration, std::nullopt);
+        fixture.start([&] { return fixture.model->applyConfiguration(); });
         QVERIFY(model.isApplying.value() && !model.applyError.value());
         const QStringList domains{u"corp.example"_s, u"lab.example"_s, u"x\ny"_s};
         QCOMPARE(fixture.written(u"DNS"_s),
@@ -248,6 +247,44 @@ private Q_SLOTS:
         QTRY_COMPARE(system.rests.load(), rests + 1); // and not before
     }
 
+    void whatNobodyConfirmsIsTakenBack()
+    {
+        Fixture fixture;
+        MainViewModel& model = *fixture.model;
+        FakeSystemConfiguration& system = *fixture.system;
+        std::optional<std::chrono::milliseconds>& confirmBy = (*system.services)[1].confirmBy;
+        (*system.services)[1].interface = {u"wlan0"_s, {}, {}};
+        QCoro::waitFor(model.refreshAdapters());
+        const auto attempt = [&](const char* ownWay, std::chrono::milliseconds seen) {
+            system.calls.clear();
+            fixture.platform.remoteInterface = [ownWay] { return QString::fromLatin1(ownWay); };
+            fixture.start([&] { return model.applyConfiguration(); });
+            confirmBy = 30s;
+            for (int i = 0; i < 5; ++i) {
+                fixture.clock->advance(seen / 5);
+                QTest::qWait(10);
+            }
+            return system.calls.join(u',')
+                .remove(u"open,lock,"_s)
+                .remove(u"set IPv4,set DNS,commit,apply,unlock"_s);
+        };
+        QCOMPARE(attempt("eth7", 40s), QString());
+        QCOMPARE(attempt("wlan0", 20s), u"try 30 s,"_s);
+        QCOMPARE(fixture.authorization->rights.last(), QLatin1String(trialRight));
+        QCOMPARE(model.guardedTrials.value(), 1);
+        fixture.clock->advance(11s);
+        QTRY_COMPARE(system.calls.mid(system.calls.size() - 2),
+                     (QStringList{u"take back Wi-Fi"_s, u"unlock"_s}));
+        QTRY_COMPARE(model.guardedTrials.value(), 0);
+        attempt("wlan0", 20s);
+        confirmBy.reset(); // somebody has confirmed it
+        fixture.clock->advance(11s);
+        QTRY_COMPARE(model.guardedTrials.value(), 0);
+        QCOMPARE(system.calls.filter(u"take back"_s), QStringList());
+        fixture.start([&] { return model.endTrial(true); });
+        QTRY_VERIFY(system.calls.contains(u"keep Wi-Fi"_s));
+    }
+
     void consentIsAskedForOnceUntilSomethingFails()
     {
         Fixture fixture;
@@ -255,7 +292,7 @@ private Q_SLOTS:
         FakeAuthorization& authorization = *fixture.authorization;
         const auto attempt = [&](qint32 status) {
             fixture.system->refusals[u"commit"_s] = status;
-            fixture.start(&MainViewModel::applyConfiguration, std::nullopt);
+            fixture.start([&] { return fixture.model->applyConfiguration(); });
             fixture.clock->advance(10s);
             QTRY_VERIFY(!model.isApplying.value());
             fixture.clock->advance(10s); // the follow-up too
@@ -296,7 +333,7 @@ private Q_SLOTS:
         protocols[u"IPv4"_s] = Dictionary{{u"ConfigMethod"_s, u"Manual"_s}};
         QCoro::waitFor(fixture.model->loadAdapters());
         fixture.model->primaryDNS = u"edited"_s;
-        fixture.start(&MainViewModel::renewDHCPLease);
+        fixture.start([&] { return fixture.model->renewDHCPLease(); });
         QCOMPARE(fixture.written(u"DNS"_s), dns);
         QCOMPARE(fixture.written(u"IPv4"_s), (Dictionary{{u"ConfigMethod"_s, u"DHCP"_s}}));
         fixture.clock->advance(1s);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/simulated/SimulatedMachine.h"
+#include "platform/simulated/SimulatedPreferences.h"
 
 #include <QFileSystemWatcher>
 
@@ -17,7 +17,8 @@ namespace ardeo
 class SimulatedConfiguration final : public SystemConfiguration
 {
 public:
-    explicit SimulatedConfiguration(SimulatedMachine machine);
+    /// The clock outlives it.
+    SimulatedConfiguration(SimulatedMachine machine, const Clock& clock);
     std::unique_ptr<Preferences> createPreferences(const QString& name) override;
     std::unique_ptr<Preferences> createPreferencesWithAuthorization(const QString& name,
                                                                     AuthorizationRef authorization) override;
@@ -25,7 +26,8 @@ public:
     void rest() override { m_watcher.reset(); }
     bool awaitChange() override;
     void interrupt() override;
-    qint32 error() const override { return static_cast<qint32>(m_status); }
+    qint32 error() const override { return static_cast<qint32>(m_outcome.status); }
+    QString errorReason() const override { return m_outcome.reason; }
 
     /// Whether the machine's file could be read the last time. May be called from any thread.
     bool isReadable() const { return m_readable; }
@@ -36,8 +38,9 @@ private:
     std::unique_ptr<Preferences> open(bool authorized);
 
     SimulatedMachine m_machine;
+    const Clock& m_clock;
     std::atomic<bool> m_readable = true;
-    SystemStatus m_status = SystemStatus::ok;
+    SimulatedOutcome m_outcome;
     /// Belongs to the thread of the operations.
     std::unique_ptr<QFileSystemWatcher> m_watcher;
     bool m_hasChanged = false;

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <chrono>
+#include <fcntl.h>
 #include <utility>
 
 namespace ardeo
@@ -189,6 +191,49 @@ void bringUpToDate(Json& service, bool freshLease)
     }
 }
 
+void putOnTrial(Json& service, Json before, std::chrono::nanoseconds now, std::chrono::seconds time)
+{
+    const auto begin = std::chrono::duration_cast<std::chrono::milliseconds>(now);
+    service["trial"] = {
+        {"began", begin.count()}, {"confirmBy", (begin + time).count()}, {"before", std::move(before)}};
+}
+
+std::optional<std::chrono::milliseconds> confirmationDeadline(const Json& service)
+{
+    const Json* trial = member(service, "trial");
+    const Json* deadline = trial ? member(*trial, "confirmBy") : nullptr;
+    return deadline && deadline->is_number_integer()
+               ? std::optional(std::chrono::milliseconds(deadline->get<qint64>()))
+               : std::nullopt;
+}
+
+void endTrial(Json& service, bool keep)
+{
+    const Json* before = member(service["trial"], "before");
+    if (keep || !before)
+        service.erase("trial");
+    else
+        service = Json(*before);
+}
+
+bool takeBackOverdue(Json& machine, std::chrono::nanoseconds now)
+{
+    bool any = false;
+    if (!member(machine, "services") || !machine["services"].is_array())
+        return any;
+    for (Json& service : machine["services"]) {
+        const auto deadline = confirmationDeadline(service);
+        const Json* began = deadline ? member(service["trial"], "began") : nullptr;
+        // Time that has gone back has begun anew with the computer.
+        const bool isOver = deadline && (now >= *deadline || !began || !began->is_number_integer() ||
+                                         now < std::chrono::milliseconds(began->get<qint64>()));
+        if (isOver)
+            endTrial(service, false);
+        any = any || isOver;
+    }
+    return any;
+}
+
 SimulatedMachine::SimulatedMachine(QString file) : m_file(std::move(file)) {}
 
 void SimulatedMachine::seed() const
@@ -215,6 +260,18 @@ std::optional<Json> SimulatedMachine::read() const
     };
     Json machine = Json::parse(text.begin(), text.end(), keepIfShallow, false);
     return machine.is_object() && !tooDeep ? std::optional(std::move(machine)) : std::nullopt;
+}
+
+AdvisoryLock SimulatedMachine::lock(const WaitingObserver& waiting) const
+{
+    return AdvisoryLock(m_file + QStringLiteral(".lock"), O_RDWR | O_CREAT | O_NOFOLLOW, waiting);
+}
+
+std::optional<Json> SimulatedMachine::readLocked(std::chrono::nanoseconds now) const
+{
+    auto machine = read();
+    const bool isOverdue = machine && takeBackOverdue(*machine, now);
+    return isOverdue && !write(*machine) ? std::nullopt : machine;
 }
 
 bool SimulatedMachine::write(const Json& machine) const

@@ -25,8 +25,8 @@ public:
     bool copyRights(AuthorizationRef, const QString& right, quint32) override
     {
         const auto machine = m_machine.read();
-        return right == QLatin1String(systemNetworkRight) && machine &&
-               flagMember(*machine, "administrator", true);
+        const bool isKnown = right == QLatin1String(systemNetworkRight) || right == QLatin1String(trialRight);
+        return isKnown && machine && flagMember(*machine, "administrator", true);
     }
     void free(AuthorizationRef, quint32) override {}
 
@@ -64,7 +64,7 @@ Platform simulatedPlatform(const QString& machineFile, std::unique_ptr<Clock> cl
 {
     const SimulatedMachine machine(QFileInfo(machineFile).absoluteFilePath());
     machine.seed();
-    auto configuration = std::make_unique<SimulatedConfiguration>(machine);
+    auto configuration = std::make_unique<SimulatedConfiguration>(machine, *clock);
     Platform platform;
     platform.trouble = [system = configuration.get(), file = machine.file()]() -> std::optional<Trouble> {
         if (system->isReadable())

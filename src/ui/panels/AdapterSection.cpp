@@ -143,10 +143,12 @@ QWidget* makeSummary(MainViewModel& vm)
 
 QString pickerLabel(const AdapterInfo& adapter)
 {
-    if (adapter.isActive)
-        return adapter.serviceName;
-    return adapter.serviceName +
-           (adapter.isEnabled ? QStringLiteral(" (disconnected)") : QStringLiteral(" (disabled)"));
+    QString label = adapter.serviceName;
+    if (!adapter.isActive)
+        label += adapter.isEnabled ? QStringLiteral(" (disconnected)") : QStringLiteral(" (disabled)");
+    if (adapter.confirmBy)
+        label += QStringLiteral(" (on trial)");
+    return label;
 }
 
 QString speedText(qint64 mbps)

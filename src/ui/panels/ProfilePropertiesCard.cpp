@@ -150,6 +150,29 @@ QWidget* makeDNSSection(MainViewModel& vm)
     return section;
 }
 
+/// Counts down what is left to keep a change that is on trial.
+QWidget* makeTrialRow(MainViewModel& vm)
+{
+    auto* trial = new QWidget;
+    auto* row = rowIn(trial, 10);
+    auto* keep = new PushButton(QStringLiteral("Keep"), QString(), PushButton::Kind::bordered);
+    QObject::connect(keep, &QPushButton::clicked, keep, [&vm] { vm.endTrial(true); });
+    bind(
+        keep, [&vm] { return !vm.isApplying.value(); },
+        [keep](bool possible) { keep->setUsable(possible); });
+    row->addWidget(keep);
+    auto* left = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::secondary);
+    left->setWordWrap(true);
+    row->addWidget(left, 1);
+    bind(
+        trial, [&vm] { return vm.secondsToConfirm.value(); },
+        [trial, left](std::optional<qint64> seconds) {
+            trial->setVisible(seconds.has_value());
+            left->setText(QStringLiteral("The change is taken back in %1 s.").arg(seconds.value_or(0)));
+        });
+    return trial;
+}
+
 QWidget* makeFeedback(MainViewModel& vm)
 {
     auto* feedback = new QWidget;
@@ -186,6 +209,8 @@ QWidget* makeFeedback(MainViewModel& vm)
         [applied](bool success) { fade(applied, success); });
     row->addWidget(applied);
     row->addStretch(1);
+
+    stack->addWidget(makeTrialRow(vm));
 
     auto* waiting = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::secondary, feedback);
     waiting->setWordWrap(true);

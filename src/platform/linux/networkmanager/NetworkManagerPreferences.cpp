@@ -5,6 +5,7 @@
 #include "platform/linux/networkmanager/NetworkManagerServices.h"
 #include "platform/linux/networkmanager/PolkitRights.h"
 #include "platform/linux/networkmanager/ProfileTranslation.h"
+#include "platform/linux/networkmanager/ProfileTrial.h"
 
 #include <QElapsedTimer>
 
@@ -21,49 +22,12 @@ namespace
 /// on it vanishes with its holder, however that one ends.
 constexpr auto lockFolder = "/run/NetworkManager";
 
-/// Writes the changes into the profile; false when it cannot be taken.
-bool translate(const ServiceChanges& changes, NMConnection* profile)
-{
-    if (changes.ipv4) {
-        const auto checked = checkedIPv4Changes(ipv4DictionaryOf(profile), *changes.ipv4);
-        if (!checked)
-            return false;
-        changeIPv4(profile, *checked, *changes.ipv4);
-    }
-    if (changes.dns) {
-        const auto checked = checkedDNS(*changes.dns);
-        if (!checked)
-            return false;
-        changeDNS(profile, *checked, *changes.dns);
-    }
-    if (changes.enabled) {
-        g_object_set(nm_connection_get_setting_connection(profile), NM_SETTING_CONNECTION_AUTOCONNECT,
-                     *changes.enabled ? TRUE : FALSE, nullptr);
-    }
-    return nm_connection_normalize(profile, nullptr, nullptr, nullptr) != FALSE;
-}
-
-bool isAutoconnected(NMConnection* profile)
-{
-    return nm_setting_connection_get_autoconnect(nm_connection_get_setting_connection(profile)) != FALSE;
-}
-
 /// Whether the profile's network is there; that of anything but Wi-Fi is where its device is ready.
 bool isInReach(NMDevice* device, NMRemoteConnection* connection)
 {
     const GPtrArray* available = nm_device_get_available_connections(device);
     return !NM_IS_DEVICE_WIFI(device) ||
            g_ptr_array_find(const_cast<GPtrArray*>(available), connection, nullptr);
-}
-
-/// Reads a profile from the daemon, not from the snapshot; null with the error when that fails.
-GRef<NMConnection> readAnew(NetworkManagerSession& session, NMRemoteConnection* connection, GLibError& error)
-{
-    const GVariantRef answer = session.ask(connection, "GetSettings", nullptr, "(a{sa{sv}})", error);
-    if (!answer)
-        return nullptr;
-    const GVariantRef settings(g_variant_get_child_value(answer.get(), 0));
-    return GRef<NMConnection>(nm_simple_connection_new_from_dbus(settings.get(), error.out()));
 }
 
 } // namespace
@@ -162,44 +126,64 @@ bool NetworkManagerPreferences::commitChanges()
     return end(SystemStatus::ok);
 }
 
+SystemStatus NetworkManagerPreferences::checkRightToChange(const Profile& profile)
+{
+    if (!m_hasPersonalProfiles)
+        return SystemStatus::ok;
+    const bool isOwn = isPersonal(NM_CONNECTION(profile.connection.get()));
+    return checkRight(isOwn ? modifyOwnAction : modifySystemAction);
+}
+
 SystemStatus NetworkManagerPreferences::commit(Profile& profile)
 {
-    if (m_hasPersonalProfiles) {
-        const bool isOwn = isPersonal(NM_CONNECTION(profile.connection.get()));
-        const SystemStatus status = checkRight(isOwn ? modifyOwnAction : modifySystemAction);
-        if (status != SystemStatus::ok)
-            return status;
-    }
+    SystemStatus status = checkRightToChange(profile);
+    if (status != SystemStatus::ok)
+        return status;
     GLibError error;
-    GRef<NMConnection> changed = readAnew(*m_session, profile.connection.get(), error);
+    GRef<NMConnection> changed = m_session->read(profile.connection.get(), error);
     if (!changed)
         return statusOf(error);
+    if (trialOf(changed.get())) {
+        m_session->refuse(trialReason());
+        return SystemStatus::preferencesBusy;
+    }
     constexpr auto ignored = static_cast<NMSettingCompareFlags>(NM_SETTING_COMPARE_FLAG_IGNORE_SECRETS |
                                                                 NM_SETTING_COMPARE_FLAG_IGNORE_TIMESTAMP);
     if (!nm_connection_compare(changed.get(), profile.seen.get(), ignored))
         return SystemStatus::stale;
-    if (!translate(profile.changes, changed.get()))
+    const GRef<NMConnection> before(nm_simple_connection_new_clone(changed.get()));
+    if (!change(changed.get(), profile.changes))
         return SystemStatus::invalidArgument;
 
     for (NMActiveConnection* active : activationsOf(m_session->client(), profile.connection.get()))
         profile.activationsBefore.insert(nm_object_get_path(NM_OBJECT(active)));
-    // To disk, also if the daemon made the profile up. Secrets are not among what was read, and an update
-    // without any leaves them as they are. The daemon may connect a profile that was just enabled before
-    // apply does, with the same settings; keeping it from that would keep it from connecting when the cable
-    // comes back, too.
-    const GVariantRef updated = m_session->ask(
-        profile.connection.get(), "Update2",
-        g_variant_new("(@a{sa{sv}}ua{sv})", nm_connection_to_dbus(changed.get(), NM_CONNECTION_SERIALIZE_ALL),
-                      guint32(NM_SETTINGS_UPDATE2_FLAG_TO_DISK), nullptr),
-        nullptr, error);
-    // What is wrong with the profile has been found before; the daemon says the same of a disk that is full.
-    if (!updated) {
-        const SystemStatus status = statusOf(error);
-        return status == SystemStatus::invalidArgument ? SystemStatus::failed : status;
-    }
+    // To disk, also if the daemon made the profile up. The daemon may connect a profile that was just enabled
+    // before apply does, with the same settings; keeping it from that would keep it from connecting when the
+    // cable comes back, too.
+    status = m_trial ? putOnTrial(profile, changed.get(), before.get())
+                     : update(profile, changed.get(), NM_SETTINGS_UPDATE2_FLAG_TO_DISK);
+    if (status != SystemStatus::ok)
+        return status;
     profile.seen.reset();
     profile.committed = std::move(changed);
     return SystemStatus::ok;
+}
+
+/// Without settings, only where they are kept changes. Secrets are not among those that were read, and an
+/// update without any leaves them as they are.
+SystemStatus NetworkManagerPreferences::update(const Profile& profile, NMConnection* settings, guint32 flags)
+{
+    GVariant* content = settings ? nm_connection_to_dbus(settings, NM_CONNECTION_SERIALIZE_ALL)
+                                 : g_variant_new_array(G_VARIANT_TYPE("{sa{sv}}"), nullptr, 0);
+    GLibError error;
+    const GVariantRef updated =
+        m_session->ask(profile.connection.get(), "Update2",
+                       g_variant_new("(@a{sa{sv}}ua{sv})", content, flags, nullptr), nullptr, error);
+    if (updated)
+        return SystemStatus::ok;
+    // What is wrong with the profile has been found before; the daemon says the same of a disk that is full.
+    const SystemStatus status = statusOf(error);
+    return status == SystemStatus::invalidArgument ? SystemStatus::failed : status;
 }
 
 bool NetworkManagerPreferences::applyChanges()
@@ -210,8 +194,11 @@ bool NetworkManagerPreferences::applyChanges()
         if (!profile->committed)
             continue;
         const SystemStatus status = apply(*profile);
-        if (status != SystemStatus::ok)
+        if (status != SystemStatus::ok) {
+            if (m_trial)
+                endTrial(*profile, false);
             return end(status);
+        }
     }
     return end(SystemStatus::ok);
 }
@@ -252,7 +239,7 @@ SystemStatus NetworkManagerPreferences::applyToInactive(const Profile& profile)
 {
     NMRemoteConnection* connection = profile.connection.get();
     const bool enabling = profile.changes.enabled == true;
-    if (!isAutoconnected(profile.committed.get()))
+    if (!isEnabled(profile.committed.get()))
         return SystemStatus::ok;
     NetworkManagerActivation activation(*m_session, connection, profile.committed.get());
     const GRef<NMDevice> device = newRef(deviceOf(m_session->client(), connection));

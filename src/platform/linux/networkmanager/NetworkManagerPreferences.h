@@ -21,6 +21,8 @@ public:
     bool lock(bool wait) override;
     bool commitChanges() override;
     bool applyChanges() override;
+    void beginTrial(std::chrono::seconds time) override { m_trial = time; }
+    bool endTrial(const QString& serviceID, bool keep) override;
     bool unlock() override;
 
 private:
@@ -28,7 +30,12 @@ private:
     SystemStatus takeFileLock(bool wait);
     SystemStatus checkRights();
     SystemStatus checkRight(const char* action);
+    SystemStatus checkRightToChange(const Profile& profile);
     SystemStatus commit(Profile& profile);
+    SystemStatus update(const Profile& profile, NMConnection* settings, guint32 flags);
+    SystemStatus putOnTrial(const Profile& profile, NMConnection* changed, NMConnection* before);
+    SystemStatus endTrial(Profile& profile, bool keep);
+    SystemStatus takeBack(Profile& profile, bool wasSaved);
     SystemStatus apply(const Profile& profile);
     SystemStatus applyToActive(const Profile& profile, NMActiveConnection* active);
     SystemStatus applyToInactive(const Profile& profile);
@@ -39,6 +46,7 @@ private:
     AdvisoryLock m_lock;
     /// Whether it depends on the profile which right its change takes.
     bool m_hasPersonalProfiles = false;
+    std::optional<std::chrono::seconds> m_trial;
     std::vector<std::shared_ptr<Profile>> m_profiles;
     bool m_profilesListed = false;
 };

@@ -1,6 +1,9 @@
 #include "platform/linux/networkmanager/NetworkManagerServices.h"
 
+#include "platform/ConfigurationKeys.h"
+#include "platform/PendingServices.h"
 #include "platform/linux/networkmanager/ProfileTranslation.h"
+#include "platform/linux/networkmanager/ProfileTrial.h"
 
 #include <algorithm>
 #include <utility>
@@ -61,44 +64,6 @@ void remember(Profile& profile)
         profile.seen.reset(nm_simple_connection_new_clone(NM_CONNECTION(profile.connection.get())));
 }
 
-class ProfileProtocol final : public NetworkProtocol
-{
-public:
-    using Read = Dictionary (*)(NMConnection*);
-    using Differences = Dictionary (*)(const Dictionary& present, const Dictionary& wanted);
-    using Pending = std::optional<Dictionary> ServiceChanges::*;
-    ProfileProtocol(std::shared_ptr<Profile> profile, Read read, Differences differences, Pending pending)
-        : m_profile(std::move(profile))
-        , m_read(read)
-        , m_differences(differences)
-        , m_pending(pending)
-    {
-    }
-    std::optional<QVariant> configuration() const override
-    {
-        const auto& pending = m_profile->changes.*m_pending;
-        return pending ? changed(saved(), *pending) : saved();
-    }
-    bool setConfiguration(const Dictionary& configuration) override
-    {
-        return changeConfiguration(m_differences(saved(), configuration));
-    }
-    bool changeConfiguration(const Dictionary& changes) override
-    {
-        remember(*m_profile);
-        m_profile->changes.*m_pending = changes;
-        return true;
-    }
-
-private:
-    Dictionary saved() const { return m_read(NM_CONNECTION(m_profile->connection.get())); }
-
-    std::shared_ptr<Profile> m_profile;
-    Read m_read;
-    Differences m_differences;
-    Pending m_pending;
-};
-
 class ProfileService final : public NetworkService
 {
 public:
@@ -118,6 +83,11 @@ public:
         return m_profile->changes.enabled.value_or(nm_setting_connection_get_autoconnect(common) != FALSE);
     }
     bool isPersonal() const override { return ardeo::isPersonal(connection()); }
+    std::optional<std::chrono::milliseconds> confirmBy() const override
+    {
+        const auto trial = trialOf(connection());
+        return trial ? std::optional(trial->confirmBy) : std::nullopt;
+    }
     bool setEnabled(bool enabled) override
     {
         remember(*m_profile);
@@ -131,36 +101,29 @@ public:
     }
     std::shared_ptr<NetworkProtocol> protocol(const QString& type) const override
     {
-        if (type == QStringLiteral("IPv4"))
-            return std::make_shared<ProfileProtocol>(m_profile, &ipv4DictionaryOf, &ipv4Differences,
-                                                     &ServiceChanges::ipv4);
-        if (type == QStringLiteral("DNS"))
-            return std::make_shared<ProfileProtocol>(m_profile, &dnsDictionaryOf, &dnsDifferences,
-                                                     &ServiceChanges::dns);
+        if (type == ipv4Type)
+            return protocol(&ipv4DictionaryOf, &ipv4Differences, m_profile->changes.ipv4);
+        if (type == dnsType)
+            return protocol(&dnsDictionaryOf, &dnsDifferences, m_profile->changes.dns);
         return nullptr;
     }
 
 private:
+    std::shared_ptr<NetworkProtocol> protocol(Dictionary (*read)(NMConnection*),
+                                              PendingProtocol::Differences differences,
+                                              std::optional<Dictionary>& pending) const
+    {
+        return std::make_shared<PendingProtocol>(
+            [profile = m_profile, read] {
+                return std::optional<QVariant>(read(NM_CONNECTION(profile->connection.get())));
+            },
+            differences, std::shared_ptr<std::optional<Dictionary>>(m_profile, &pending),
+            [profile = m_profile] { remember(*profile); });
+    }
     NMConnection* connection() const { return NM_CONNECTION(m_profile->connection.get()); }
 
     std::shared_ptr<NetworkManagerSession> m_session;
     std::shared_ptr<Profile> m_profile;
-};
-
-class ProfileSet final : public NetworkSet
-{
-public:
-    explicit ProfileSet(std::vector<std::shared_ptr<NetworkService>> services)
-        : m_services(std::move(services))
-    {
-    }
-    std::optional<std::vector<std::shared_ptr<NetworkService>>> services() const override
-    {
-        return m_services;
-    }
-
-private:
-    std::vector<std::shared_ptr<NetworkService>> m_services;
 };
 
 } // namespace
@@ -202,7 +165,7 @@ std::shared_ptr<NetworkSet> networkSetOf(const std::shared_ptr<NetworkManagerSes
     services.reserve(profiles.size());
     for (auto& profile : profiles)
         services.push_back(std::make_shared<ProfileService>(session, std::move(profile)));
-    return std::make_shared<ProfileSet>(std::move(services));
+    return std::make_shared<PendingSet>(std::move(services));
 }
 
 std::vector<NMActiveConnection*> activationsOf(NMClient* client, NMRemoteConnection* connection)
@@ -260,6 +223,19 @@ NMDevice* deviceOf(NMClient* client, NMRemoteConnection* connection)
             best = device;
     }
     return best;
+}
+
+std::vector<NMDevice*> devicesOf(NMClient* client, NMRemoteConnection* connection)
+{
+    std::vector<NMDevice*> devices;
+    for (NMActiveConnection* active : activationsOf(client, connection)) {
+        if (NMDevice* device = deviceOf(active))
+            devices.push_back(device);
+    }
+    NMDevice* const other = devices.empty() ? deviceOf(client, connection) : nullptr;
+    if (other && nm_device_is_real(other))
+        devices.push_back(other);
+    return devices;
 }
 
 } // namespace ardeo

@@ -35,4 +35,7 @@ Readiness readinessOf(NMDevice* device);
 /// not ready (its cable is out). Null for a VPN, and where there is none.
 NMDevice* deviceOf(NMClient* client, NMRemoteConnection* connection);
 
+/// The devices that a change of the profile affects: all that it is active on, else the one behind it.
+std::vector<NMDevice*> devicesOf(NMClient* client, NMRemoteConnection* connection);
+
 } // namespace ardeo

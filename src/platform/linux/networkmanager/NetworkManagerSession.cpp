@@ -55,6 +55,15 @@ NMClient* NetworkManagerSession::client()
 
 /// The daemon answers in turn: what it told before comes before its answer. What is new makes the client ask
 /// for more, so that a second answer is waited for. False when the daemon is another one now, or none.
+GRef<NMConnection> NetworkManagerSession::read(NMRemoteConnection* profile, GLibError& error)
+{
+    const GVariantRef answer = ask(profile, "GetSettings", nullptr, "(a{sa{sv}})", error);
+    if (!answer)
+        return nullptr;
+    const GVariantRef settings(g_variant_get_child_value(answer.get(), 0));
+    return GRef<NMConnection>(nm_simple_connection_new_from_dbus(settings.get(), error.out()));
+}
+
 bool NetworkManagerSession::catchUp()
 {
     NMClient* const client = m_view.client.get();

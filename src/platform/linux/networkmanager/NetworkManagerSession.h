@@ -56,6 +56,10 @@ public:
     GVariantRef ask(const char* method, GVariant* arguments, const char* replyType, GLibError& error);
     GVariantRef ask(NMRemoteConnection* profile, const char* method, GVariant* arguments,
                     const char* replyType, GLibError& error);
+    /// Reads a profile from the daemon, not from the snapshot; null with the error when that fails.
+    GRef<NMConnection> read(NMRemoteConnection* profile, GLibError& error);
+    /// Leaves a reason of our own for the refusal that follows.
+    void refuse(const QString& reason) { m_view.refusal = reason; }
     /// Whether the daemon still answers, and has told all that happened before.
     bool catchUp();
 

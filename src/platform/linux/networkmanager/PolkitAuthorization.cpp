@@ -26,15 +26,15 @@ std::optional<AuthorizationRef> PolkitAuthorization::create()
 
 bool PolkitAuthorization::copyRights(AuthorizationRef authorization, const QString& right, quint32 flags)
 {
-    const char* modify = nullptr;
-    if (right == QLatin1String(systemNetworkRight))
-        modify = modifySystemAction;
-    else if (right == QLatin1String(personalNetworkRight))
-        modify = modifyOwnAction;
-    else
+    const QHash<QString, QList<const char*>> actionsOfRights{
+        {QLatin1String(systemNetworkRight), {modifySystemAction, networkControlAction}},
+        {QLatin1String(personalNetworkRight), {modifyOwnAction, networkControlAction}},
+        {QLatin1String(trialRight), {checkpointAction}}};
+    const auto actions = actionsOfRights.constFind(right);
+    if (actions == actionsOfRights.constEnd())
         return false;
     GLibLoop loop;
-    for (const char* action : {modify, networkControlAction}) {
+    for (const char* action : *actions) {
         auto answer = askPolkit(loop, promptly(), action, false);
         if (answer && !answer->authorized && (flags & interactionAllowed) != 0) {
             answer = askPolkit(loop, QDeadlineTimer(QDeadlineTimer::Forever), action, true);

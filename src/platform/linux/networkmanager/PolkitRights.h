@@ -24,6 +24,8 @@ struct PolkitAnswer {
 inline constexpr auto modifySystemAction = "org.freedesktop.NetworkManager.settings.modify.system";
 inline constexpr auto modifyOwnAction = "org.freedesktop.NetworkManager.settings.modify.own";
 inline constexpr auto networkControlAction = "org.freedesktop.NetworkManager.network-control";
+/// To have what is changed taken back.
+inline constexpr auto checkpointAction = "org.freedesktop.NetworkManager.checkpoint-rollback";
 
 /// Asks polkit about an action; with interaction it may prompt the user, and takes as long as they do. None
 /// when polkit is not there or does not answer.

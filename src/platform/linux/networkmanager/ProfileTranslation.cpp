@@ -32,6 +32,63 @@ NMSettingIPConfig* ipv4Of(NMConnection* profile)
     return nm_connection_get_setting_ip4_config(profile);
 }
 
+/// Brings what the changes name of IPv4 into the profile, from the configuration that they lead to; its
+/// routes and DHCP options stay, and another method takes all addresses and the gateway along.
+void changeIPv4(NMConnection* profile, const IPv4Configuration& configuration, const Dictionary& changes)
+{
+    NMSettingIPConfig* ipv4 = ipv4Of(profile);
+    const char* method =
+        configuration.manual ? NM_SETTING_IP4_CONFIG_METHOD_MANUAL : NM_SETTING_IP4_CONFIG_METHOD_AUTO;
+    const bool isOther =
+        changes.contains(configMethodKey) && QByteArrayView(nm_setting_ip_config_get_method(ipv4)) != method;
+    if (isOther || changes.contains(addressesKey) || changes.contains(subnetMasksKey)) {
+        nm_setting_ip_config_clear_addresses(ipv4);
+        for (const auto& [text, prefix] : configuration.addresses) {
+            NMIPAddress* address =
+                nm_ip_address_new(AF_INET, text.toUtf8().constData(), static_cast<guint>(prefix), nullptr);
+            nm_setting_ip_config_add_address(ipv4, address);
+            nm_ip_address_unref(address);
+        }
+    }
+    if (isOther)
+        g_object_set(ipv4, NM_SETTING_IP_CONFIG_METHOD, method, nullptr);
+    if (isOther || changes.contains(routerKey)) {
+        g_object_set(ipv4, NM_SETTING_IP_CONFIG_GATEWAY,
+                     configuration.router ? configuration.router->toUtf8().constData() : nullptr, nullptr);
+    }
+    // It would make NetworkManager drop the gateway that is asked for here, and say nothing.
+    if (configuration.router && changes.contains(routerKey))
+        g_object_set(ipv4, NM_SETTING_IP_CONFIG_NEVER_DEFAULT, FALSE, nullptr);
+}
+
+/// Brings what the changes name of the servers and search domains into the profile, from the configuration
+/// that they lead to. With servers of its own the profile takes none from the network any more, neither by
+/// DHCP nor by router advertisement; its own IPv6 servers stay.
+void changeDNS(NMConnection* profile, const DNSConfiguration& configuration, const Dictionary& changes)
+{
+    NMSettingIPConfig* ipv4 = ipv4Of(profile);
+    if (changes.contains(searchDomainsKey)) {
+        nm_setting_ip_config_clear_dns_searches(ipv4);
+        for (const QString& domain : configuration.searchDomains)
+            nm_setting_ip_config_add_dns_search(ipv4, domain.toUtf8().constData());
+    }
+    if (!changes.contains(serverAddressesKey))
+        return;
+    nm_setting_ip_config_clear_dns(ipv4);
+    for (const QString& server : configuration.serverAddresses)
+        nm_setting_ip_config_add_dns(ipv4, server.toUtf8().constData());
+
+    const gboolean ownServersOnly = configuration.serverAddresses.isEmpty() ? FALSE : TRUE;
+    g_object_set(ipv4, NM_SETTING_IP_CONFIG_IGNORE_AUTO_DNS, ownServersOnly, nullptr);
+    if (NMSettingIPConfig* ipv6 = nm_connection_get_setting_ip6_config(profile)) {
+        const QByteArrayView method(nm_setting_ip_config_get_method(ipv6));
+        const bool automatic =
+            method == NM_SETTING_IP6_CONFIG_METHOD_AUTO || method == NM_SETTING_IP6_CONFIG_METHOD_DHCP;
+        if (automatic || !ownServersOnly)
+            g_object_set(ipv6, NM_SETTING_IP_CONFIG_IGNORE_AUTO_DNS, ownServersOnly, nullptr);
+    }
+}
+
 } // namespace
 
 Dictionary ipv4DictionaryOf(NMConnection* profile)
@@ -87,56 +144,30 @@ std::optional<Dictionary> liveDictionaryOf(NMIPConfig* configuration)
     return dictionary;
 }
 
-void changeIPv4(NMConnection* profile, const IPv4Configuration& configuration, const Dictionary& changes)
+bool isEnabled(NMConnection* profile)
 {
-    NMSettingIPConfig* ipv4 = ipv4Of(profile);
-    const char* method =
-        configuration.manual ? NM_SETTING_IP4_CONFIG_METHOD_MANUAL : NM_SETTING_IP4_CONFIG_METHOD_AUTO;
-    const bool isOther =
-        changes.contains(configMethodKey) && QByteArrayView(nm_setting_ip_config_get_method(ipv4)) != method;
-    if (isOther || changes.contains(addressesKey) || changes.contains(subnetMasksKey)) {
-        nm_setting_ip_config_clear_addresses(ipv4);
-        for (const auto& [text, prefix] : configuration.addresses) {
-            NMIPAddress* address =
-                nm_ip_address_new(AF_INET, text.toUtf8().constData(), static_cast<guint>(prefix), nullptr);
-            nm_setting_ip_config_add_address(ipv4, address);
-            nm_ip_address_unref(address);
-        }
-    }
-    if (isOther)
-        g_object_set(ipv4, NM_SETTING_IP_CONFIG_METHOD, method, nullptr);
-    if (isOther || changes.contains(routerKey)) {
-        g_object_set(ipv4, NM_SETTING_IP_CONFIG_GATEWAY,
-                     configuration.router ? configuration.router->toUtf8().constData() : nullptr, nullptr);
-    }
-    // It would make NetworkManager drop the gateway that is asked for here, and say nothing.
-    if (configuration.router && changes.contains(routerKey))
-        g_object_set(ipv4, NM_SETTING_IP_CONFIG_NEVER_DEFAULT, FALSE, nullptr);
+    return nm_setting_connection_get_autoconnect(nm_connection_get_setting_connection(profile)) != FALSE;
 }
 
-void changeDNS(NMConnection* profile, const DNSConfiguration& configuration, const Dictionary& changes)
+bool change(NMConnection* profile, const ServiceChanges& changes)
 {
-    NMSettingIPConfig* ipv4 = ipv4Of(profile);
-    if (changes.contains(searchDomainsKey)) {
-        nm_setting_ip_config_clear_dns_searches(ipv4);
-        for (const QString& domain : configuration.searchDomains)
-            nm_setting_ip_config_add_dns_search(ipv4, domain.toUtf8().constData());
+    if (changes.ipv4) {
+        const auto checked = checkedIPv4Changes(ipv4DictionaryOf(profile), *changes.ipv4);
+        if (!checked)
+            return false;
+        changeIPv4(profile, *checked, *changes.ipv4);
     }
-    if (!changes.contains(serverAddressesKey))
-        return;
-    nm_setting_ip_config_clear_dns(ipv4);
-    for (const QString& server : configuration.serverAddresses)
-        nm_setting_ip_config_add_dns(ipv4, server.toUtf8().constData());
-
-    const gboolean ownServersOnly = configuration.serverAddresses.isEmpty() ? FALSE : TRUE;
-    g_object_set(ipv4, NM_SETTING_IP_CONFIG_IGNORE_AUTO_DNS, ownServersOnly, nullptr);
-    if (NMSettingIPConfig* ipv6 = nm_connection_get_setting_ip6_config(profile)) {
-        const QByteArrayView method(nm_setting_ip_config_get_method(ipv6));
-        const bool automatic =
-            method == NM_SETTING_IP6_CONFIG_METHOD_AUTO || method == NM_SETTING_IP6_CONFIG_METHOD_DHCP;
-        if (automatic || !ownServersOnly)
-            g_object_set(ipv6, NM_SETTING_IP_CONFIG_IGNORE_AUTO_DNS, ownServersOnly, nullptr);
+    if (changes.dns) {
+        const auto checked = checkedDNS(*changes.dns);
+        if (!checked)
+            return false;
+        changeDNS(profile, *checked, *changes.dns);
     }
+    if (changes.enabled) {
+        g_object_set(nm_connection_get_setting_connection(profile), NM_SETTING_CONNECTION_AUTOCONNECT,
+                     *changes.enabled ? TRUE : FALSE, nullptr);
+    }
+    return nm_connection_normalize(profile, nullptr, nullptr, nullptr) != FALSE;
 }
 
 } // namespace ardeo
