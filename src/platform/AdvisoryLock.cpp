@@ -32,8 +32,7 @@ SystemStatus lockFile(int file, int operation)
 /// As the kernel's table has it, whose lines read "1: FLOCK  ADVISORY  WRITE 4711 00:19:1033 0 EOF".
 LockHolder holderOf(int file)
 {
-    struct stat place {
-    };
+    struct stat place = {};
     QFile table(QStringLiteral("/proc/locks"));
     if (fstat(file, &place) != 0 || !table.open(QIODevice::ReadOnly))
         return {};

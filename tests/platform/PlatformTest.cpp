@@ -177,8 +177,7 @@ private Q_SLOTS:
         QCOMPARE(victim.data(u"victim"_s), QByteArray("theirs"));
         QVERIFY(QFile::remove(links.last()) && preferences->lock(true));
         for (const QString& file : links) {
-            struct stat found {
-            };
+            struct stat found = {};
             QVERIFY(lstat(QFile::encodeName(file).constData(), &found) == 0);
             QCOMPARE(found.st_mode, mode_t(S_IFREG | S_IRUSR | S_IWUSR));
         }

@@ -187,16 +187,14 @@ QWidget* LeftPanel::makeListArea()
         bool any;
         int changes;
     };
-    bind(
-        area,
-        [this] {
-            return Shown{presetFilter.value(), hasPresets(), m_presetChanges.value()};
-        },
-        [this, nothing, layers](const Shown& shown) {
-            m_list->setFilter(shown.filter);
-            nothing->setText(shown.any ? QStringLiteral("No match.") : QStringLiteral("No saved profiles."));
-            layers->setCurrentIndex(m_list->count() > 0 ? 0 : 1);
-        });
+    const auto read = [this]() -> Shown {
+        return {presetFilter.value(), hasPresets(), m_presetChanges.value()};
+    };
+    bind(area, read, [this, nothing, layers](const Shown& shown) {
+        m_list->setFilter(shown.filter);
+        nothing->setText(shown.any ? QStringLiteral("No match.") : QStringLiteral("No saved profiles."));
+        layers->setCurrentIndex(m_list->count() > 0 ? 0 : 1);
+    });
     return area;
 }
 

@@ -181,8 +181,8 @@ QWidget* makeFeedback(MainViewModel& vm)
 
     auto* revert = new PushButton(QStringLiteral("Revert"), QString(), PushButton::Kind::bordered);
     QObject::connect(revert, &QPushButton::clicked, revert, [&vm] { vm.revertForm(); });
-    bind(
-        revert, [&vm] { return vm.hasChanges(); }, [revert](bool changed) { revert->setUsable(changed); });
+    const auto hasChanges = [&vm] { return vm.hasChanges(); };
+    bind(revert, hasChanges, [revert](bool changed) { revert->setUsable(changed); });
     row->addWidget(revert);
 
     auto* renew = new PushButton(QStringLiteral("Renew DHCP"), QStringLiteral("arrow.triangle.2.circlepath"),

@@ -58,8 +58,8 @@ ProfileNameSheet::ProfileNameSheet(Observed<Text>& name, const QString& title, c
     buttons->addStretch();
     connect(cancel, &QPushButton::clicked, this, [this] { m_onCancel(); });
     connect(save, &QPushButton::clicked, this, std::move(onConfirm));
-    bind(
-        this, [&name] { return !isBlank(name.value()); }, [save](bool named) { save->setEnabled(named); });
+    const auto isNamed = [&name] { return !isBlank(name.value()); };
+    bind(this, isNamed, [save](bool named) { save->setEnabled(named); });
 
     look::followTextSize(this, [this, field] {
         field->setFixedWidth(look::scaled(260));
