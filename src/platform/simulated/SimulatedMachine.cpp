@@ -88,7 +88,7 @@ std::optional<Json> nextLease(Json& network)
     live["SubnetMasks"] = {textMember(network, "SubnetMask").value_or(QString()).toStdString()};
     if (const Json* router = member(network, "Router"))
         live["Router"] = *router;
-    return live;
+    return std::optional(std::move(live));
 }
 
 } // namespace

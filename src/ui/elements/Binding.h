@@ -4,6 +4,7 @@
 #include <QProperty>
 
 #include <type_traits>
+#include <utility>
 
 namespace ardeo
 {

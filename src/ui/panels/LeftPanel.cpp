@@ -131,7 +131,7 @@ QWidget* LeftPanel::makeSearchRow()
         });
     new QShortcut(
         Qt::Key_Escape, field, field,
-        [this, field] {
+        [this] {
             if (presetFilter.value().isEmpty())
                 leaveSearch();
             else
