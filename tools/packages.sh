@@ -7,7 +7,7 @@ build_packages=(
 )
 test_packages=(
     clang-format network-manager polkitd dnsmasq-base dbus dbus-bin iproute2 util-linux bsdutils
-    gir1.2-atspi-2.0 at-spi2-core xvfb openbox fonts-dejavu-core xdotool trayer desktop-file-utils
+    gir1.2-atspi-2.0 at-spi2-core xvfb openbox fonts-dejavu-core xdotool tint2 desktop-file-utils
     python3-dbus python3-gi appstream man-db clang-tidy cppcheck
 )
 fuzzing_packages=(clang libclang-rt-14-dev)
