@@ -110,7 +110,7 @@ QWidget* RightPanel::makeContent()
     auto* stack = columnIn(view, 0);
     auto* header = new ActionHeader(vm);
     stack->addWidget(header);
-    for (QWidget* button : header->findChildren<PushButton*>())
+    for (const QWidget* button : header->findChildren<PushButton*>())
         m_covering << button;
 
     auto* cards = new QWidget;

@@ -31,7 +31,7 @@ private:
     NeuralNetworkBackground* m_background;
     QScrollArea* m_cards = nullptr;
     /// What hides the background, for its sake.
-    QList<QWidget*> m_covering;
+    QList<const QWidget*> m_covering;
 };
 
 } // namespace ardeo
