@@ -8,6 +8,7 @@
 #include <QThreadPool>
 
 #include <dlfcn.h>
+#include <memory>
 #include <sanitizer/tsan_interface.h>
 
 namespace
@@ -16,18 +17,15 @@ namespace
 class HandedOver final : public QRunnable
 {
 public:
-    explicit HandedOver(std::function<void()> operation) : m_operation(std::move(operation))
-    {
-        __tsan_release(this);
-    }
+    explicit HandedOver(QRunnable* operation) : m_operation(operation) { __tsan_release(this); }
     void run() override
     {
         __tsan_acquire(this);
-        m_operation();
+        m_operation->run();
     }
 
 private:
-    std::function<void()> m_operation;
+    std::unique_ptr<QRunnable> m_operation;
 };
 
 } // namespace
@@ -37,10 +35,20 @@ extern "C" const char* __tsan_default_options()
     return "ignore_noninstrumented_modules=1";
 }
 
+void QThreadPool::start(QRunnable* operation, int priority)
+{
+    using Start = void (*)(QThreadPool*, QRunnable*, int);
+    static const auto start =
+        reinterpret_cast<Start>(dlsym(RTLD_NEXT, "_ZN11QThreadPool5startEP9QRunnablei"));
+    start(this, new HandedOver(operation), priority);
+}
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 6, 0) // since then, this is what the other does
 void QThreadPool::start(std::function<void()> operation, int priority)
 {
-    start(new HandedOver(std::move(operation)), priority);
+    start(QRunnable::create(std::move(operation)), priority);
 }
+#endif
 
 void QFutureInterfaceBase::reportException(std::exception_ptr exception)
 {
