@@ -3,16 +3,16 @@
 build_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-svg-dev libxcb1-dev qcoro-qt6-dev nlohmann-json3-dev libnm-dev libpolkit-gobject-1-dev
-    librsvg2-bin gzip dpkg-dev file
+    librsvg2-bin
 )
 test_packages=(
     clang-format network-manager polkitd dnsmasq-base dbus dbus-bin iproute2 util-linux bsdutils
-    gir1.2-atspi-2.0 at-spi2-core xvfb openbox fonts-dejavu-core xdotool tint2 desktop-file-utils
+    gir1.2-atspi-2.0 at-spi2-core xvfb openbox fonts-dejavu-core xdotool tint2 desktop-file-utils file
     python3-dbus python3-gi appstream man-db clang-tidy cppcheck
 )
-fuzzing_packages=(clang libclang-rt-14-dev)
+fuzzing_packages=(clang libclang-rt-dev)
 benchmark_packages=(
-    libbenchmark-dev network-manager-gnome nm-tray trayer python3-xlib python3-gi gir1.2-atspi-2.0
+    debhelper libbenchmark-dev network-manager-gnome nm-tray trayer python3-xlib python3-gi gir1.2-atspi-2.0
 )
 screenshot_packages=(fonts-inter fonts-dejavu-core)
 
