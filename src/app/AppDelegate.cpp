@@ -31,7 +31,10 @@ QWindow& keyWindow(const QWidget& window)
 
 void bringToFront(QWidget& window)
 {
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    // Of a window that is minimised the toolkit may have forgotten that it fills the screen; the desktop has
+    // not.
+    const QWindow* handle = window.windowHandle();
+    window.setWindowState((handle ? handle->windowStates() : window.windowState()) & ~Qt::WindowMinimized);
     window.show();
     window.raise();
     activateIgnoringOtherApps(keyWindow(window));
