@@ -1,7 +1,5 @@
 #include "app/WindowHider.h"
 
-#include "ui/elements/Style.h"
-
 #include <QEvent>
 
 namespace ardeo
@@ -12,7 +10,7 @@ namespace
 
 constexpr QSize smallestSize(720, 560);
 
-/// Turns a request to close the window into hiding it.
+/// Turns a request to close the window into hiding it, and keeps the window as large as its content needs.
 class WindowCloseDelegate final : public QObject
 {
 public:
@@ -26,8 +24,12 @@ public:
     }
 
 protected:
-    bool eventFilter(QObject*, QEvent* event) override
+    bool eventFilter(QObject* watched, QEvent* event) override
     {
+        if (event->type() == QEvent::LayoutRequest) {
+            auto* window = static_cast<QWidget*>(watched);
+            window->setMinimumSize(smallestSize.expandedTo(window->minimumSizeHint()));
+        }
         if (event->type() != QEvent::Close || windowShouldClose())
             return false;
         event->ignore();
@@ -64,9 +66,7 @@ private:
         QWidget* place = parentWidget() ? parentWidget()->window() : nullptr;
         if (place) {
             place->installEventFilter(&windowDelegate);
-            look::followTextSize(place, [place] {
-                place->setMinimumSize(smallestSize.expandedTo({look::leastWidth(place), 0}));
-            });
+            place->setMinimumSize(smallestSize);
         }
         m_delegate.mainWindow = place;
     }

@@ -21,13 +21,16 @@ Card::Card(const QString& title, const QString& systemImage, QWidget* trailingVi
 {
     setAccessibleName(title);
     auto* stack = columnIn(this, 12, {16, 16, 16, 16});
-    auto* header = rowIn(stack, 4);
+    auto* header = growing(rowIn(stack, 4));
     header->addWidget(
         new SymbolView(systemImage, 16, [](const Colours& colours) { return colours.primary; }));
-    header->addWidget(new TextLabel(title, look::font(TextStyle::headline), Emphasis::primary));
-    header->addStretch();
-    if (trailingView)
+    auto* name = new TextLabel(title, look::font(TextStyle::headline), Emphasis::primary);
+    name->setWordWrap(true); // where text is large
+    header->addWidget(name, 1);
+    if (trailingView) {
+        header->addSpacing(4);
         header->addWidget(trailingView);
+    }
     stack->addWidget(content);
 }
 

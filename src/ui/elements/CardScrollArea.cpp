@@ -35,6 +35,19 @@ CardScrollArea::CardScrollArea(QWidget* content, QWidget* parent) : QScrollArea(
         clear->setAutoFillBackground(false);
 }
 
+QSize CardScrollArea::minimumSizeHint() const
+{
+    return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(),
+            QScrollArea::minimumSizeHint().height()};
+}
+
+bool CardScrollArea::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == widget() && event->type() == QEvent::LayoutRequest)
+        updateGeometry(); // the content may need more width, or less
+    return QScrollArea::eventFilter(watched, event);
+}
+
 void CardScrollArea::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Home)

@@ -1,6 +1,7 @@
 #include "ui/elements/Controls.h"
 
 #include "ui/elements/Symbol.h"
+#include "ui/elements/TextLabel.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -131,8 +132,9 @@ QRect PopUpButton::labelRect() const
 bool PopUpButton::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip)
-        setToolTip(fontMetrics().horizontalAdvance(shownText()) > labelRect().width() ? shownText()
-                                                                                      : QString());
+        setToolTip(fontMetrics().horizontalAdvance(shownText()) > labelRect().width()
+                       ? toolTipText(shownText())
+                       : QString());
     return QComboBox::event(event);
 }
 

@@ -10,6 +10,8 @@
 #include <QKeyEvent>
 #include <QMenu>
 
+#include <algorithm>
+
 namespace ardeo
 {
 
@@ -18,12 +20,38 @@ class ValueLabel final : public TextLabel
 {
 public:
     using TextLabel::TextLabel;
+    void setValue(const QString& value)
+    {
+        m_value = value;
+        setAccessibleName(value);
+        updateGeometry();
+        fit();
+    }
     // The toolkit asks the lines as they are drawn, and lays them out, and draws them, anew.
     QSize sizeHint() const override { return sizeForWidth(QWIDGETSIZE_MAX); }
-    QSize minimumSizeHint() const override { return {sizeForWidth(0).width(), sizeHint().height()}; }
-    int heightForWidth(int width) const override { return sizeForWidth(width).height(); }
+    QSize minimumSizeHint() const override
+    {
+        // Addresses are never cut.
+        const int longest = fontMetrics().horizontalAdvance(QStringLiteral("255.255.255.255"));
+        return {std::min(sizeForWidth(0).width(), longest), sizeHint().height()};
+    }
+    int heightForWidth(int width) const override
+    {
+        return sizeForWidth(isCutIn(width) ? QWIDGETSIZE_MAX : width).height();
+    }
 
 protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        TextLabel::resizeEvent(event);
+        fit();
+    }
+    void changeEvent(QEvent* event) override
+    {
+        TextLabel::changeEvent(event);
+        if (event->type() == QEvent::FontChange)
+            fit();
+    }
     void focusInEvent(QFocusEvent* event) override
     {
         TextLabel::focusInEvent(event);
@@ -50,10 +78,25 @@ private:
     QSize sizeForWidth(int width) const
     {
         const QRect page(0, 0, width, QWIDGETSIZE_MAX);
-        return fontMetrics().boundingRect(page, Qt::TextWordWrap, text()).size();
+        return fontMetrics().boundingRect(page, Qt::TextWordWrap, m_value).size();
+    }
+    bool isCutIn(int width) const { return sizeForWidth(width).width() > width; }
+    /// Elides a value that lacks a place to break.
+    void fit()
+    {
+        const bool isCut = isCutIn(width());
+        setText(isCut ? fontMetrics().elidedText(m_value, Qt::ElideMiddle, width()) : m_value);
+        setToolTip(isCut ? toolTipText(m_value) : QString());
     }
     void selectAll() { setSelection(0, static_cast<int>(text().size())); }
-    void copy() const { QGuiApplication::clipboard()->setText(hasSelectedText() ? selectedText() : text()); }
+    void copy() const
+    {
+        const bool isPart = hasSelectedText() && selectedText() != text();
+        QGuiApplication::clipboard()->setText(isPart ? selectedText() : m_value);
+    }
+
+    /// All of it, of which the text shows what there is room for.
+    QString m_value;
 };
 
 InfoRow::InfoRow(const QString& label, const QString& value, bool monospaced, QWidget* parent)
@@ -80,7 +123,7 @@ InfoRow::InfoRow(const QString& label, const QString& value, bool monospaced, QW
 
 void InfoRow::setValue(const QString& value)
 {
-    m_value->setText(value.isEmpty() ? QStringLiteral("—") : value);
+    m_value->setValue(value.isEmpty() ? QStringLiteral("—") : value);
     // The Tab key stops only at what is worth copying.
     m_value->setFocusPolicy(value.isEmpty() ? Qt::ClickFocus : Qt::StrongFocus);
     m_value->setEmphasis(value.isEmpty() ? Emphasis::tertiary : Emphasis::primary);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/elements/Style.h"
+
 #include <QBoxLayout>
 
 namespace ardeo
@@ -21,6 +23,14 @@ inline QHBoxLayout* rowIn(QWidget* widget, int spacing, const QMargins& margins 
     auto* row = new QHBoxLayout(widget);
     row->setContentsMargins(margins);
     row->setSpacing(spacing);
+    return row;
+}
+
+/// Has the gap between a symbol and its text, a row that stands in its widget, grow with the text.
+inline QHBoxLayout* growing(QHBoxLayout* row)
+{
+    look::followTextSize(row->parentWidget(),
+                         [row, usual = row->spacing()] { row->setSpacing(look::scaled(usual)); });
     return row;
 }
 

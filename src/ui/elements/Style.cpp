@@ -178,13 +178,6 @@ void followTextSize(QWidget* widget, const std::function<void()>& action)
         QObject::connect(style, &ArdeoStyle::textScaleChanged, widget, action);
 }
 
-int leastWidth(const QWidget* widget)
-{
-    for (QWidget* part : widget->findChildren<QWidget*>())
-        part->updateGeometry();
-    return widget->minimumSizeHint().width();
-}
-
 int lineHeight(const QFont& font)
 {
     return std::min(QFontMetrics(font).height(), QFontInfo(font).pixelSize() * 5 / 4);

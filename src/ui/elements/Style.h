@@ -77,10 +77,6 @@ int scaled(int points);
 /// Does what depends on the size of text, now and whenever it changes while the widget lives.
 void followTextSize(QWidget* widget, const std::function<void()>& action);
 
-/// The width below which something in the widget would be cut, as its parts are now. (What a layout says only
-/// follows them when events are handled.)
-int leastWidth(const QWidget* widget);
-
 /// The height of a line of such text in points, without the room that some fonts keep for stacked accents.
 int lineHeight(const QFont& font);
 

@@ -10,6 +10,38 @@
 namespace ardeo
 {
 
+namespace
+{
+
+/// In points at the usual text size.
+constexpr int toolTipWidth = 400;
+
+/// The lines of that width in points that a text takes; only a word that is longer than a line is broken.
+QStringList linesOf(const QString& text, const QFont& font, int width)
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QStringList lines;
+    for (const QString& paragraph : text.split(u'\n')) {
+        QTextLayout layout(paragraph, font);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(width);
+            lines << paragraph.mid(line.textStart(), line.textLength());
+        }
+        layout.endLayout();
+    }
+    return lines;
+}
+
+} // namespace
+
+QString toolTipText(const QString& text)
+{
+    return linesOf(text, QToolTip::font(), look::scaled(toolTipWidth)).join(u'\n');
+}
+
 TextLabel::TextLabel(const QString& text, const QFont& font, Emphasis emphasis, QWidget* parent)
     : QLabel(text, parent)
 {
@@ -42,12 +74,11 @@ void TextLabel::takeColour()
 
 bool TextLabel::event(QEvent* event)
 {
-    // What the lines lack is made up for by the ellipsis.
-    const bool isCut = m_elidedLines > 0 && event->type() == QEvent::ToolTip &&
-                       elidedLines(width()).join(QString()) != text();
+    const bool isCut =
+        m_lines && event->type() == QEvent::ToolTip && linesOf(text(), font(), width()).size() > *m_lines;
     if (!isCut)
         return QLabel::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipText(text()), this);
     return true;
 }
 
@@ -58,67 +89,64 @@ void TextLabel::changeEvent(QEvent* event)
         takeColour();
 }
 
-void TextLabel::setElided(int lines)
+void TextLabel::setLines(int most)
 {
-    m_elidedLines = lines;
+    m_lines = most;
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
 QSize TextLabel::minimumSizeHint() const
 {
-    return m_elidedLines > 0 ? QSize(0, fontMetrics().height()) : QLabel::minimumSizeHint();
+    return m_lines ? QSize(0, fontMetrics().height()) : QLabel::minimumSizeHint();
 }
 
 QSize TextLabel::sizeHint() const
 {
-    return m_elidedLines > 0 ? QSize(fontMetrics().horizontalAdvance(text()), fontMetrics().height())
-                             : QLabel::sizeHint();
+    // The text's width is no whole number, and is not always rounded up.
+    return m_lines ? QSize(fontMetrics().horizontalAdvance(text()) + 1, fontMetrics().height())
+                   : QLabel::sizeHint();
 }
 
 bool TextLabel::hasHeightForWidth() const
 {
-    return m_elidedLines > 1 || QLabel::hasHeightForWidth();
+    return m_lines ? *m_lines > 1 : QLabel::hasHeightForWidth();
 }
 
 int TextLabel::heightForWidth(int width) const
 {
-    if (m_elidedLines == 0)
+    if (!m_lines)
         return QLabel::heightForWidth(width);
-    return static_cast<int>(std::max<qsizetype>(1, elidedLines(width).size())) * fontMetrics().height();
+    return static_cast<int>(std::max<qsizetype>(1, shownLines(width).size())) * fontMetrics().height();
 }
 
-QStringList TextLabel::elidedLines(int width) const
+QStringList TextLabel::shownLines(int width) const
 {
-    QStringList lines;
-    QTextLayout layout(text(), font());
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        const QString rest = text().mid(line.textStart());
-        if (lines.size() + 1 == m_elidedLines) {
-            lines << fontMetrics().elidedText(rest, Qt::ElideRight, width);
-            break;
-        }
-        lines << rest.left(line.textLength());
+    QStringList lines = linesOf(text(), font(), width);
+    if (m_lines && lines.size() > *m_lines) {
+        const QString rest = lines.mid(*m_lines - 1).join(QString());
+        lines = lines.first(*m_lines - 1);
+        lines << fontMetrics().elidedText(rest, Qt::ElideRight, width);
     }
-    layout.endLayout();
     return lines;
 }
 
 void TextLabel::paintEvent(QPaintEvent* event)
 {
-    if (m_elidedLines == 0) {
+    if (!m_lines) {
         QLabel::paintEvent(event);
         return;
     }
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
-    const QStringList lines = elidedLines(width());
+    const QStringList lines = shownLines(width());
+    const bool isCentred = alignment().testFlag(Qt::AlignHCenter);
     int top = (height() - static_cast<int>(lines.size()) * fontMetrics().height()) / 2;
     for (const QString& line : lines) {
-        const Qt::Alignment side = line.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+        const Qt::Alignment side = isCentred              ? Qt::AlignHCenter
+                                   : line.isRightToLeft() ? Qt::AlignRight
+                                                          : Qt::AlignLeft;
         painter.drawText(QRect(0, top, width(), fontMetrics().height()),
-                         static_cast<int>(side | Qt::AlignVCenter), line);
+                         static_cast<int>(side | Qt::AlignVCenter), isCentred ? line.trimmed() : line);
         top += fontMetrics().height();
     }
 }

@@ -5,6 +5,8 @@
 #include <QLabel>
 
 #include <functional>
+#include <limits>
+#include <optional>
 
 namespace ardeo
 {
@@ -21,9 +23,11 @@ public:
 
     void setEmphasis(Emphasis emphasis);
     void setColour(Colour colour);
-    /// With this, a text that does not fit its width ends in an ellipsis, on that line; a tool tip tells all
-    /// of it.
-    void setElided(int lines);
+    /// With this, a text takes up to so many lines, and what is still too long ends in an ellipsis; a tool
+    /// tip tells all of it. A word that is longer than a line is broken.
+    void setLines(int most);
+    /// With this, a text takes as many lines as it needs, and never asks for more width than it gets.
+    void setWrapped() { setLines(std::numeric_limits<int>::max()); }
 
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
@@ -37,10 +41,14 @@ protected:
 
 private:
     void takeColour();
-    QStringList elidedLines(int width) const;
+    QStringList shownLines(int width) const;
 
     Colour m_colour;
-    int m_elidedLines = 0;
+    /// None where the toolkit lays the text out.
+    std::optional<int> m_lines;
 };
+
+/// A text as a tool tip shows it: in lines that fit on any screen.
+QString toolTipText(const QString& text);
 
 } // namespace ardeo

@@ -99,7 +99,7 @@ QSize UnfoldingSection::sizeHint() const
 
 QSize UnfoldingSection::minimumSizeHint() const
 {
-    return {0, sizeHint().height()};
+    return {m_content ? m_content->minimumSizeHint().width() + m_indent : 0, sizeHint().height()};
 }
 
 bool UnfoldingSection::event(QEvent* event)

@@ -54,7 +54,7 @@ QWidget* makePicker(MainViewModel& vm)
                 if (i == picker->count())
                     picker->addItem(label);
                 picker->setItemText(i, label);
-                picker->setItemData(i, label, Qt::ToolTipRole);
+                picker->setItemData(i, toolTipText(label), Qt::ToolTipRole);
             }
             picker->setPlaceholderText(choices.placeholder);
             picker->setAccessibleName(choices.placeholder.isEmpty() ? QStringLiteral("Select Adapter")
@@ -107,7 +107,7 @@ QWidget* makeSummary(MainViewModel& vm)
     auto* stack = columnIn(summary, 3, {8, 6, 8, 0});
     const auto addLabel = [](QBoxLayout* place, const QFont& font, Emphasis emphasis, int lines) {
         auto* label = new TextLabel(QString(), font, emphasis);
-        label->setElided(lines);
+        label->setLines(lines);
         place->addWidget(label, place->direction() == QBoxLayout::LeftToRight ? 1 : 0);
         return label;
     };

@@ -2,6 +2,7 @@
 
 #include "ui/elements/Style.h"
 #include "ui/elements/Symbol.h"
+#include "ui/elements/TextLabel.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -172,7 +173,8 @@ public:
             QFontMetrics(nameFont()).horizontalAdvance(preset.name.string().simplified()) > room ||
             QFontMetrics(summaryFont()).horizontalAdvance(summary.simplified()) > room;
         QToolTip::showText(event->globalPos(),
-                           isCut ? preset.name + QStringLiteral("\n") + summary : QString(), view);
+                           isCut ? toolTipText(preset.name + QStringLiteral("\n") + summary) : QString(),
+                           view);
         return true;
     }
 

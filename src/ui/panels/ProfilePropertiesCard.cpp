@@ -213,7 +213,7 @@ QWidget* makeFeedback(MainViewModel& vm)
     stack->addWidget(makeTrialRow(vm));
 
     auto* waiting = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::secondary, feedback);
-    waiting->setWordWrap(true);
+    waiting->setWrapped();
     bind(
         waiting, [&vm] { return vm.waitsFor.value(); },
         [waiting](const std::optional<LockHolder>& holder) {

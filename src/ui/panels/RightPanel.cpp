@@ -28,8 +28,6 @@ namespace
 constexpr double backgroundMaxDist = 220;
 constexpr double backgroundSpeed = 0.25;
 constexpr int smallestWidth = 460;
-/// As much of it grows with the text.
-constexpr int widthOfTexts = 240;
 
 QWidget* makeEmptyState(MainViewModel& vm)
 {
@@ -47,7 +45,7 @@ QWidget* makeEmptyState(MainViewModel& vm)
                      0, Qt::AlignHCenter);
     auto* trouble = new TextLabel(QString(), look::font(TextStyle::subheadline), Emphasis::secondary);
     trouble->setAlignment(Qt::AlignCenter);
-    trouble->setWordWrap(true);
+    trouble->setWrapped();
     stack->addWidget(trouble);
     bind(
         trouble, [&vm] { return vm.trouble.value(); },
@@ -71,8 +69,6 @@ RightPanel::RightPanel(MainViewModel& model, Clock& clock, QWidget* parent)
     , vm(model)
     , m_background(new NeuralNetworkBackground(clock, backgroundMaxDist, backgroundSpeed, this))
 {
-    look::followTextSize(
-        this, [this] { setMinimumWidth(smallestWidth + look::scaled(widthOfTexts) - widthOfTexts); });
     auto* layers = new QStackedLayout(this);
     layers->addWidget(makeContent());
     layers->addWidget(makeEmptyState(vm));
@@ -82,6 +78,11 @@ RightPanel::RightPanel(MainViewModel& model, Clock& clock, QWidget* parent)
     m_background->lower();
     m_background->setCovered([this] { return covered(); });
     followDisableConfirm();
+}
+
+QSize RightPanel::minimumSizeHint() const
+{
+    return QWidget::minimumSizeHint().expandedTo({smallestWidth, 0});
 }
 
 void RightPanel::resizeEvent(QResizeEvent*)

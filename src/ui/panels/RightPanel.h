@@ -16,6 +16,7 @@ class RightPanel final : public QWidget
 
 public:
     RightPanel(MainViewModel& model, Clock& clock, QWidget* parent = nullptr);
+    QSize minimumSizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -28,7 +28,7 @@ NoticePanel::NoticePanel(const QString& title, const QString& text, QWidget* par
         0, Qt::AlignHCenter);
     auto* sentence = new TextLabel(text, look::font(TextStyle::body), Emphasis::secondary);
     sentence->setAlignment(Qt::AlignCenter);
-    sentence->setWordWrap(true);
+    sentence->setWrapped();
     stack->addWidget(sentence);
     stack->addSpacing(4);
     auto* close = new PushButton(QStringLiteral("OK"), QString(), PushButton::Kind::prominent);

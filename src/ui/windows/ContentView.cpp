@@ -22,13 +22,23 @@ constexpr int sidebarMinimum = 240;
 constexpr int sidebarIdeal = 260;
 constexpr int sidebarMaximum = 300;
 
-/// A divider that is one point wide and yet can be taken hold of.
+/// The sidebar and what stands beside it, with a divider that is one point wide and yet can be taken hold of.
 class Splitter final : public QSplitter
 {
 public:
     using QSplitter::QSplitter;
 
 protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest) {
+            // Large text, or a long name in a badge, needs more than the usual width.
+            const int needed = widget(0)->minimumSizeHint().width();
+            widget(0)->setMinimumWidth(std::max(sidebarMinimum, needed));
+            widget(0)->setMaximumWidth(std::max(sidebarMaximum, needed));
+        }
+        return QSplitter::event(event);
+    }
     class Handle final : public QSplitterHandle
     {
     public:
@@ -54,12 +64,6 @@ ContentView::ContentView(MainViewModel& model, Clock& clock, NotificationCenter&
 {
     auto* columns = new Splitter(Qt::Horizontal);
     auto* sidebar = new LeftPanel(vm);
-    look::followTextSize(sidebar, [sidebar] {
-        // Large text needs more than the usual width.
-        const int least = std::max(sidebarMinimum, look::leastWidth(sidebar));
-        sidebar->setMinimumWidth(least);
-        sidebar->setMaximumWidth(std::max(sidebarMaximum, least));
-    });
     auto* detail = new RightPanel(vm, clock);
     columns->addWidget(sidebar);
     columns->addWidget(detail);
