@@ -132,6 +132,16 @@ struct Window {
         }
         return nullptr;
     }
+    void activate() const
+    {
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    }
+    /// Presses the key as if it came from the desktop.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::keyClick(window->windowHandle(), key, modifiers);
+    }
     void click(const char* name) const { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
     static void turnWheel(QWidget* below)
     {
@@ -370,8 +380,7 @@ private Q_SLOTS:
         QCOMPARE(QAccessible::queryAccessibleInterface(w.list())->child(1)->text(QAccessible::Name),
                  u"Office, Manual · "_s);
 
-        w.window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
+        w.activate();
         QStringList order;
         for (int i = 0; i < 36 && !qobject_cast<QLabel*>(QApplication::focusWidget()); ++i) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -385,8 +394,12 @@ private Q_SLOTS:
                  "Export profiles to file,Refresh,Apply,Manually Set IP Address,IP Address,Subnet Mask,"
                  "Gateway,Manually Set DNS Address,Preferred DNS,Alternate DNS,Revert,Renew DHCP,"
                  "Disable Adapter"_s);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+        QWidget* value = QApplication::focusWidget();
+        QTest::keyClick(value, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text(), w.model->currentConfig.value().ipAddress.string());
+        QContextMenuEvent asked(QContextMenuEvent::Keyboard, value->rect().center(), {});
+        QApplication::sendEvent(value, &asked);
+        QCOMPARE(value->findChild<QMenu*>()->pos(), value->mapToGlobal(value->rect().bottomLeft()));
     }
 
     void everythingGrowsWithTheText()
@@ -506,19 +519,43 @@ private Q_SLOTS:
     void pressedButtonsKeepTheFocus()
     {
         Window w;
-        w.window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
+        w.activate();
         w.click("Manually Set IP Address");
         for (const char* name : {"Revert", "Refresh"}) {
             w.find<QAbstractButton>(name)->setFocus();
             for (int i = 0; i < 2; ++i)
-                QTest::keyClick(w.window->windowHandle(), Qt::Key_Space);
+                w.press(Qt::Key_Space);
             QVERIFY(!w.model->isApplying.value() && w.find<QAbstractButton>(name)->hasFocus());
             w.settle();
             QVERIFY(w.find<QRadioButton>("Automatically Set IP Address")->isChecked());
         }
-        QTest::keyClick(w.window->windowHandle(), Qt::Key_Tab);
+        w.model->isLoading = true; // while another window comes before this one
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        w.activate();
+        const QImage refresh = w.find<QAbstractButton>("Refresh")->grab().toImage();
+        QCOMPARE(refresh.pixelColor(1, 14), look::colours(ColorScheme::light).teal);
+        w.model->isLoading = false;
+        QVERIFY(w.find<QAbstractButton>("Refresh")->hasFocus());
+        w.press(Qt::Key_Tab);
         QVERIFY(w.find<QAbstractButton>("Apply")->hasFocus());
+    }
+
+    void focusStaysWhereItsPlaceGoesAway()
+    {
+        Window w;
+        w.activate();
+        w.click("Manually Set IP Address");
+        w.field("Gateway")->octet(1)->setFocus();
+        w.press(Qt::Key_R, Qt::ControlModifier);
+        w.settle();
+        QVERIFY(w.find<QRadioButton>("Automatically Set IP Address")->hasFocus());
+        w.find<QLineEdit>("Search profiles")->setFocus();
+        for (const auto key : {Qt::Key_Escape, Qt::Key_Tab})
+            w.press(key);
+        QVERIFY(w.find<QAbstractButton>("Save Profile…")->hasFocus());
     }
 
     void pickerSelects()
@@ -646,8 +683,7 @@ private Q_SLOTS:
         QCOMPARE(w.list()->count(), 11);
         QTest::keyClicks(search, u" "_s);
         QVERIFY(w.shows("No match."));
-        w.window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
+        w.activate();
         search->setFocus();
         QVERIFY(w.find<QAbstractButton>("Clear search")->rect().contains(QRect(0, 0, 24, 24)));
         QTest::keyClick(search, Qt::Key_Escape);
@@ -807,6 +843,8 @@ private Q_SLOTS:
             QVERIFY(bar->value() > 0 && bar->value() == bar->maximum());
             QTest::keyClick(page->windowHandle(), Qt::Key_Home);
             QCOMPARE(bar->value(), 0);
+            QTest::keyClick(page->windowHandle(), Qt::Key_PageDown);
+            QVERIFY(bar->value() > 200 && bar->value() < 290);
             QCOMPARE(page->width(), width);
             for (const QLabel* label : page->findChildren<QLabel*>()) {
                 const int needed =

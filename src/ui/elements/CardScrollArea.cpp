@@ -50,12 +50,24 @@ bool CardScrollArea::eventFilter(QObject* watched, QEvent* event)
 
 void CardScrollArea::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Home)
-        verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMinimum);
-    else if (event->key() == Qt::Key_End)
-        verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMaximum);
-    else
+    QScrollBar* bar = verticalScrollBar();
+    const int page = bar->pageStep() - fontMetrics().lineSpacing();
+    switch (event->key()) {
+    case Qt::Key_Home:
+        bar->setValue(bar->minimum());
+        break;
+    case Qt::Key_End:
+        bar->setValue(bar->maximum());
+        break;
+    case Qt::Key_PageUp:
+        bar->setValue(bar->value() - page);
+        break;
+    case Qt::Key_PageDown:
+        bar->setValue(bar->value() + page);
+        break;
+    default:
         QScrollArea::keyPressEvent(event);
+    }
 }
 
 } // namespace ardeo

@@ -6,7 +6,7 @@ namespace ardeo
 {
 
 /// A vertical scroll area without a ground of its own, as wide as its content needs at least. Besides the
-/// usual keys, Home and End scroll it.
+/// usual keys, Home and End scroll it, and a page leaves a line of the last one in sight.
 class CardScrollArea final : public QScrollArea
 {
     Q_OBJECT

@@ -71,7 +71,8 @@ protected:
         auto* menu = new QMenu(this);
         menu->setAttribute(Qt::WA_DeleteOnClose);
         menu->addAction(QStringLiteral("Copy"), QKeySequence::Copy, this, &ValueLabel::copy);
-        menu->popup(event->globalPos());
+        const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+        menu->popup(byKey ? mapToGlobal(rect().bottomLeft()) : event->globalPos());
     }
 
 private:

@@ -3,7 +3,9 @@
 #include "ui/elements/Spinner.h"
 #include "ui/elements/Symbol.h"
 
+#include <QEvent>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -38,6 +40,22 @@ void PushButton::setUsable(bool usable)
 bool PushButton::focusNextPrevChild(bool next)
 {
     return m_keepsFocus || QPushButton::focusNextPrevChild(next);
+}
+
+void PushButton::changeEvent(QEvent* event)
+{
+    QPushButton::changeEvent(event);
+    // A window that becomes active gives the focus to no button that is out of use, although it keeps it for
+    // the button.
+    if (event->type() == QEvent::EnabledChange && holdsFocus())
+        setFocus(Qt::ActiveWindowFocusReason);
+    if (event->type() == QEvent::ActivationChange)
+        update();
+}
+
+bool PushButton::holdsFocus() const
+{
+    return isActiveWindow() && window()->focusWidget() == this;
 }
 
 void PushButton::setTint(Tint tint)
@@ -141,9 +159,10 @@ void PushButton::paintEvent(QPaintEvent*)
     }
     if (faint)
         ink = colours.tertiary;
-    if (hasFocus()) {
-        const QColor ring = m_kind == Kind::prominent ? QColor(255, 255, 255, 210) : colours.teal;
-        const double inset = m_kind == Kind::prominent ? 2 : 0;
+    if (holdsFocus()) {
+        const bool isFilled = m_kind == Kind::prominent && !faint;
+        const QColor ring = isFilled ? QColor(255, 255, 255, 210) : colours.teal;
+        const double inset = isFilled ? 2 : 0;
         look::strokeInside(painter, area.adjusted(inset, inset, -inset, -inset), radius - inset, ring, 2);
     }
 

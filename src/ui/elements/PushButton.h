@@ -39,9 +39,12 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
+    /// Whether keys that are pressed now come here, or will once the button is in use again.
+    bool holdsFocus() const;
     QRectF symbolRect() const;
 
     QString m_symbol;

@@ -50,10 +50,14 @@ void UnfoldingSection::setShown(bool shown)
         m_content->ensurePolished();
         m_picture = m_content->grab(QRect(QPoint(), m_pictureSize));
     }
-    if (!shown)
-        delete std::exchange(m_content, nullptr);
-    else
+    if (shown) {
         m_content->show();
+    } else {
+        const bool hadFocus = m_content->isAncestorOf(window()->focusWidget());
+        delete std::exchange(m_content, nullptr);
+        if (hadFocus)
+            Q_EMIT focusLost();
+    }
     m_animation.stop();
     if (!moves) {
         m_picture = {};

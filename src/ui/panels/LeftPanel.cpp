@@ -162,7 +162,7 @@ void LeftPanel::leaveSearch()
     if (m_list->isVisible())
         m_list->setFocus();
     else
-        setFocus(); // it does nothing with keys, and the Tab key goes on from here
+        m_list->parentWidget()->setFocus(); // it does nothing with keys, and the Tab key goes on from there
 }
 
 QWidget* LeftPanel::makeListArea()

@@ -78,9 +78,9 @@ QWidget* makeAddressRow(MainViewModel& vm, const AddressRow& row)
     return new FormRow(row.label, field);
 }
 
-/// Rows with an address field each, that unfold while the condition holds.
+/// Rows with an address field each, that unfold below a choice while the condition holds.
 template <typename Condition>
-QWidget* addressRows(MainViewModel& vm, Condition condition, std::vector<AddressRow> rows)
+QWidget* addressRows(MainViewModel& vm, QWidget* choice, Condition condition, std::vector<AddressRow> rows)
 {
     auto* section = new UnfoldingSection(8, 20, [&vm, rows = std::move(rows)] {
         auto* content = new QWidget;
@@ -89,6 +89,16 @@ QWidget* addressRows(MainViewModel& vm, Condition condition, std::vector<Address
             stack->addWidget(makeAddressRow(vm, row));
         return content;
     });
+    // Queued, for what is chosen may be about to be shown.
+    QObject::connect(
+        section, &UnfoldingSection::focusLost, choice,
+        [choice] {
+            for (auto* button : choice->findChildren<RadioButton*>()) {
+                if (button->isChecked())
+                    button->setFocus();
+            }
+        },
+        Qt::QueuedConnection);
     bind(section, condition, [section](bool shown) { section->setShown(shown); });
     return section;
 }
@@ -124,9 +134,10 @@ QWidget* makeIPv4Section(MainViewModel& vm)
 {
     auto* section = new QWidget;
     auto* stack = columnIn(section, 0);
-    stack->addWidget(radioGroup(vm.ipv4Mode, QStringLiteral("IP Address"),
-                                {"Automatically Set IP Address", "Manually Set IP Address"}));
-    stack->addWidget(addressRows(vm, [&vm] { return vm.ipv4Mode.value() == IPv4Mode::manual; },
+    QWidget* choice = radioGroup(vm.ipv4Mode, QStringLiteral("IP Address"),
+                                 {"Automatically Set IP Address", "Manually Set IP Address"});
+    stack->addWidget(choice);
+    stack->addWidget(addressRows(vm, choice, [&vm] { return vm.ipv4Mode.value() == IPv4Mode::manual; },
                                  {{QStringLiteral("IP Address:"), vm.ipAddress,
                                    QStringLiteral("192.168.1.100"), SettingFault::Setting::address},
                                   {QStringLiteral("Subnet Mask:"), vm.subnetMask,
@@ -140,9 +151,10 @@ QWidget* makeDNSSection(MainViewModel& vm)
 {
     auto* section = new QWidget;
     auto* stack = columnIn(section, 0);
-    stack->addWidget(radioGroup(vm.dnsMode, QStringLiteral("DNS"),
-                                {"Automatically Set DNS Address", "Manually Set DNS Address"}));
-    stack->addWidget(addressRows(vm, [&vm] { return vm.dnsMode.value() == DNSMode::manual; },
+    QWidget* choice = radioGroup(vm.dnsMode, QStringLiteral("DNS"),
+                                 {"Automatically Set DNS Address", "Manually Set DNS Address"});
+    stack->addWidget(choice);
+    stack->addWidget(addressRows(vm, choice, [&vm] { return vm.dnsMode.value() == DNSMode::manual; },
                                  {{QStringLiteral("Preferred DNS:"), vm.primaryDNS, QStringLiteral("8.8.8.8"),
                                    SettingFault::Setting::dnsServer},
                                   {QStringLiteral("Alternate DNS:"), vm.alternateDNS,
