@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QCoroFuture>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionMenuItem>
 #include <QWidgetAction>
@@ -85,8 +84,9 @@ template <typename Read>
 void MenuBarMenuView::addText(const QFont& font, Emphasis emphasis, Read read)
 {
     // The desktop draws the menu from the entries' texts; where we draw it, the line stands in for the
-    // entry.
+    // entry. Either passes by what is disabled.
     auto* entry = new QWidgetAction(this);
+    entry->setEnabled(false);
     auto* label = new MenuText(font, emphasis);
     entry->setDefaultWidget(label);
     addAction(entry);
@@ -132,14 +132,6 @@ MenuBarMenuView::MenuBarMenuView(MainViewModel& model, AppDelegate& appDelegate,
         [loginItem](const QString& title) { loginItem->setText(title); });
     addSeparator();
     addAction(QStringLiteral("Quit"), this, &quit);
-}
-
-void MenuBarMenuView::keyPressEvent(QKeyEvent* event)
-{
-    // Up and down pass by the lines that only say something.
-    do
-        QMenu::keyPressEvent(event);
-    while (qobject_cast<QWidgetAction*>(activeAction()));
 }
 
 QCoro::Task<> MenuBarMenuView::openShortcuts()

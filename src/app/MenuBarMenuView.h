@@ -20,9 +20,6 @@ public:
     MenuBarMenuView(MainViewModel& model, AppDelegate& appDelegate, NotificationCenter& notifications,
                     Platform& platform);
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
     /// A line of the menu that only says something, while there is something to say.
     template <typename Read>

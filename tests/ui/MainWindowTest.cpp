@@ -789,6 +789,7 @@ private Q_SLOTS:
         QCOMPARE(open->text(), u"Open Ardeo IP Config"_s);
         w.model->selectedAdapter = AdapterInfo{.serviceName = u"R&D_1 & more"_s};
         QCOMPARE(entries.first()->text(), u"&R&D__1 & more"_s); // which the desktop shows without the first &
+        QVERIFY(!entries.first()->isEnabled());
         menu.popup({});
         QTest::keyClick(&menu, Qt::Key_Down);
         QCOMPARE(menu.activeAction(), open);
