@@ -198,8 +198,12 @@ Checked<DNSConfiguration> checkedDNS(const Dictionary& dictionary)
             continue;
         const auto number = ipv4FromText(server);
         // A resolver on this very machine (127.0.0.1) is a server like any other.
-        if (!number || *number == 0 || *number >> 28 >= 0xE)
-            return addressFault(Setting::dnsServer, QStringLiteral("The DNS server"), server);
+        if (!number || *number == 0 || *number >> 28 >= 0xE) {
+            const QString which = &server == &servers->first() ? QStringLiteral("The preferred DNS server")
+                                                               : QStringLiteral("The alternate DNS server");
+            return addressFault(Setting::dnsServer,
+                                servers->size() == 2 ? which : QStringLiteral("The DNS server"), server);
+        }
         configuration.serverAddresses.append(server);
     }
     for (const QString& domain : *domains) {

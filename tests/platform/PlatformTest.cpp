@@ -47,9 +47,12 @@ private Q_SLOTS:
                  {"The subnet mask is missing.", "10.0.0.2", "..."},
                  {"The gateway is not complete.", "10.0.0.2", "255.0.0.0", "10.0."},
                  {"The gateway is the address itself.", "10.0.0.2", "255.0.0.0", "10.0.0.2"},
-                 {"fe80::1 is not an IPv4 address.", "10.0.0.2", "255.0.0.0", "", "fe80::1"}};
+                 {"fe80::1 is not an IPv4 address.", "10.0.0.2", "255.0.0.0", "", "fe80::1"},
+                 {"The DNS server is not complete.", "10.0.0.2", "255.0.0.0", "", "8.8.8."},
+                 {"The preferred DNS server is not complete.", "10.0.0.2", "255.0.0.0", "", "8.8..8,..."},
+                 {"The alternate DNS server is not complete.", "10.0.0.2", "255.0.0.0", "", "1.1.1.1,8."}};
         for (const auto& row : rows) {
-            const auto list = [](const char* text) { return QStringList(QLatin1String(text)); };
+            const auto list = [](const char* text) { return QString::fromLatin1(text).split(u','); };
             const auto ipv4 = checkedIPv4({{u"ConfigMethod"_s, u"Manual"_s},
                                            {u"Addresses"_s, list(row.address)},
                                            {u"SubnetMasks"_s, list(row.mask)},

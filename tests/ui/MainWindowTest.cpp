@@ -196,6 +196,19 @@ private Q_SLOTS:
         };
         QCOMPARE(described("Gateway"), QLatin1String(reason));
         QVERIFY(described("IP Address").isEmpty());
+        QCOMPARE(w.find<QLabel>(reason)->x(), w.find<QLabel>("Cannot save changes (SC 1002).")->x());
+        // Fault and focus, each on its own and both.
+        const auto edge = [&](const char* field) {
+            const QImage picture = w.field(field)->grab().toImage();
+            return std::pair(picture.pixelColor(1, 14), picture.pixelColor(3, 14));
+        };
+        const Colours& colours = look::colours(ColorScheme::light);
+        w.activate();
+        w.field("Subnet Mask")->octet(0)->setFocus();
+        QCOMPARE(edge("Subnet Mask"), std::pair(colours.teal, colours.textBackground));
+        QCOMPARE(edge("Gateway"), std::pair(colours.red, colours.textBackground));
+        w.field("Gateway")->octet(0)->setFocus();
+        QCOMPARE(edge("Gateway"), std::pair(colours.teal, colours.red));
         w.model->router = Text(u"10.0.0.1"_s);
         QVERIFY(described("Gateway").isEmpty() && w.shows(reason));
         w.click("Revert");

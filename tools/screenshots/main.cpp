@@ -241,7 +241,7 @@ void shootAll(const QDir& folder, const QString& suffix, QSize size)
     settle();
     stage.find<IPAddressField>(QStringLiteral("Gateway"))->octet(1)->setFocus();
     stage.shoot(name("manual"));
-    stage.vm->ipAddress = Text(QStringLiteral("300.1.1"));
+    stage.vm->ipAddress = Text(QStringLiteral("10.20..9"));
     stage.click("Apply");
     waitFor([&] { return stage.vm->applyError.value().has_value(); });
     stage.shoot(name("error"));

@@ -187,9 +187,14 @@ void IPAddressField::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF area = look::deviceAligned(this, rect());
     painter.fillPath(look::continuousRect(area, 6), colours.textBackground);
+    constexpr double ring = 2;
     const bool active = focused().has_value();
-    const QColor edge = active ? colours.teal : colours.separator;
-    look::strokeInside(painter, area, 6, m_isFaulty ? colours.red : edge, active || m_isFaulty ? 2 : 0.5);
+    look::strokeInside(painter, area, 6, active ? colours.teal : colours.separator, active ? ring : 0.5);
+    if (m_isFaulty) { // inside of the ring that shows the focus
+        const double inset = active ? ring : 0;
+        look::strokeInside(painter, area.adjusted(inset, inset, -inset, -inset), 6 - inset, colours.red,
+                           ring);
+    }
 }
 
 } // namespace ardeo

@@ -243,16 +243,12 @@ QWidget* makeFeedback(MainViewModel& vm)
             error->setText(message.value_or(Text()));
             error->setVisible(message.has_value());
         });
-    stack->addWidget(error);
-    auto* reason = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::secondary, feedback);
-    reason->setWordWrap(true);
     bind(
-        reason, [&vm] { return vm.applyFault.value(); },
-        [reason](const std::optional<SettingFault>& fault) {
-            reason->setText(fault ? fault->reason : QString());
-            reason->setVisible(fault.has_value());
+        error, [&vm] { return vm.applyFault.value(); },
+        [error](const std::optional<SettingFault>& fault) {
+            error->setDetail(fault ? fault->reason : QString());
         });
-    stack->addWidget(reason);
+    stack->addWidget(error);
     return feedback;
 }
 
