@@ -47,6 +47,9 @@ QString activeWindow()
     return isX11 && window ? QStringLiteral("x11:%1").arg(window->winId(), 0, 16) : QString();
 }
 
+/// What the toolkit's panel shows of a folder: the files that export makes, or all, whose names say nothing.
+constexpr auto filters = "Ardeo IP Config profiles (*.profiles);;All files (*)";
+
 QString documents()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
@@ -67,7 +70,7 @@ std::optional<QString> DesktopFilePanels::askWhereToSave(const QString& proposed
     if (panel.run())
         return panel.chosen();
     return asPlace(QFileDialog::getSaveFileName(QApplication::activeWindow(), message,
-                                                QDir(folder).filePath(proposedName)));
+                                                QDir(folder).filePath(proposedName), QLatin1String(filters)));
 }
 
 std::optional<QString> DesktopFilePanels::askWhatToOpen(const QString& message)
@@ -76,7 +79,8 @@ std::optional<QString> DesktopFilePanels::askWhatToOpen(const QString& message)
     panel.portal.askWhatToOpen(activeWindow(), message);
     if (panel.run())
         return panel.chosen();
-    return asPlace(QFileDialog::getOpenFileName(QApplication::activeWindow(), message, documents()));
+    return asPlace(QFileDialog::getOpenFileName(QApplication::activeWindow(), message, documents(),
+                                                QLatin1String(filters)));
 }
 
 } // namespace ardeo
