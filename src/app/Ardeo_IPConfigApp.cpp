@@ -92,10 +92,15 @@ void Ardeo_IPConfigApp::openWindow(const QString& id)
 void Ardeo_IPConfigApp::showAboutPanel()
 {
     if (!m_aboutPanel) {
-        m_aboutPanel = new NoticePanel(QStringLiteral("About Ardeo IP Config"),
-                                       QStringLiteral("Version %1\nWorks on: %2")
-                                           .arg(QApplication::applicationVersion(), m_platform.description),
-                                       &m_mainWindow);
+        // A path has lines of its own, which may break between its folders, but not at the hyphens of their
+        // names.
+        const QString system = QString(m_platform.description)
+                                   .replace(QStringLiteral(" ("), QStringLiteral("\n("))
+                                   .replace(u'-', QStringLiteral("-\u2060"));
+        m_aboutPanel = new NoticePanel(
+            QStringLiteral("About Ardeo IP Config"),
+            QStringLiteral("Version %1\nWorks on: %2").arg(QApplication::applicationVersion(), system),
+            &m_mainWindow);
     }
     bringToFront(*m_aboutPanel);
 }
