@@ -19,6 +19,7 @@
 #include "ui/windows/HelpView.h"
 #include "ui/windows/ShortcutsView.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
@@ -370,6 +371,7 @@ private Q_SLOTS:
                 !w.shows("Something went wrong."));
         m.adapters = QList<AdapterInfo>();
         QVERIFY(w.shows("No Network Services") && w.shows("No network services found on this computer."));
+        QVERIFY(!w.find<PopUpButton>("Select Adapter")->isEnabled());
         m.isLoading = true;
         QVERIFY(!w.shows("No Network Services"));
     }
@@ -443,25 +445,42 @@ private Q_SLOTS:
         };
         const auto isCut = [](const QWidget* widget) {
             const auto* label = qobject_cast<const QLabel*>(widget);
-            const int needed = label && label->wordWrap() ? 0 : widget->minimumSizeHint().width();
             const QRect seen = widget->visibleRegion().boundingRect();
-            return widget->width() < needed || (!seen.isEmpty() && seen.width() < widget->width()) ||
+            const int right = widget->mapTo(widget->window(), QPoint(widget->width(), 0)).x();
+            return right > widget->window()->width() || widget->width() < widget->minimumSizeHint().width() ||
+                   (!seen.isEmpty() && seen.width() < widget->width()) ||
                    (label && label->height() < label->heightForWidth(label->width()));
         };
+        QStringList cut;
+        const auto lookForCuts = [&] {
+            for (const QWidget* widget : texts()) {
+                if (isCut(widget))
+                    cut << widget->property("text").toString();
+            }
+        };
         auto* style = static_cast<ArdeoStyle*>(QApplication::style());
+        w.window->resize(720, 560);
+        settled(places); // until then it may be read anew
+        NetworkAdapterInfo live = w.model->currentConfig.value();
+        live.computerName = QString(80, u'x');
+        w.model->currentConfig = live;
+        settled(places);
+        lookForCuts();
+        w.window->resize(900, 680);
         const auto before = settled(places);
-        const int octet = w.field("Gateway")->octet(0)->width();
+        const auto sizes = [&] {
+            const auto* radio = w.find<QRadioButton>("Automatically Set IP Address");
+            const int aside = radio->width() - radio->fontMetrics().horizontalAdvance(radio->text());
+            return std::tuple(w.field("Gateway")->octet(0)->width(), aside, w.window->width());
+        };
+        QCOMPARE(sizes(), std::tuple(36, 24, 900));
         style->setTextScale(1.5);
         const auto large = settled(places);
-        QStringList cut;
-        for (const QWidget* widget : texts()) {
-            if (isCut(widget))
-                cut << widget->property("text").toString();
-        }
-        const int largeOctet = w.field("Gateway")->octet(0)->width();
+        lookForCuts();
+        const auto largeSizes = sizes();
         style->setTextScale(1);
         QVERIFY2(cut.isEmpty(), qPrintable(cut.join(u'\n')));
-        QCOMPARE(largeOctet, octet * 3 / 2);
+        QCOMPARE(largeSizes, std::tuple(54, 34, 900));
         QVERIFY(large != before);
         QVERIFY(settled(places) == before);
     }
@@ -762,6 +781,13 @@ private Q_SLOTS:
             QCOMPARE(disabled.join(u','), QLatin1String(expected));
         }
         w.model->isApplying = false;
+        // Where a point has two pixels, the line below the titles has no gaps.
+        auto* bar = w.window->findChild<QMenuBar*>();
+        QImage picture(bar->size() * 2, QImage::Format_RGB32);
+        picture.setDevicePixelRatio(2);
+        bar->render(&picture);
+        const QImage line = picture.copy(0, picture.height() - 4, picture.width(), 4);
+        QCOMPARE(line, line.copy(0, 0, 1, 4).scaled(line.size()));
     }
 
     void hiddenWindowComesBackAsItWas()
@@ -895,6 +921,10 @@ private Q_SLOTS:
         QCOMPARE(ground(), light);
         QApplication::setPalette(look::palette(ColorScheme::dark));
         QTRY_VERIFY(qGray(ground().pixel(2, 2)) < 64);
+        auto* picker = w.find<PopUpButton>("Select Adapter");
+        picker->showPopup();
+        QCOMPARE(picker->view()->palette().window().color(), look::colours(ColorScheme::dark).control);
+        picker->hidePopup();
         QApplication::setPalette(look::palette(ColorScheme::light));
         QVERIFY(background->testAttribute(Qt::WA_TransparentForMouseEvents));
     }

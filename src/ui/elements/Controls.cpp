@@ -21,6 +21,8 @@ constexpr int iconSize = 64;
 constexpr int symbolSize = 16;
 constexpr int badgeSymbolSize = 12;
 constexpr int controlHeight = 28;
+/// Between a symbol and its text.
+constexpr int symbolGap = 4;
 
 } // namespace
 
@@ -33,7 +35,8 @@ RadioButton::RadioButton(const QString& text, QWidget* parent) : QRadioButton(te
 
 QSize RadioButton::sizeHint() const
 {
-    return {look::scaled(indicatorSize) + 4 + fontMetrics().horizontalAdvance(text()) + 4,
+    return {look::scaled(indicatorSize) + look::scaled(symbolGap) + fontMetrics().horizontalAdvance(text()) +
+                4,
             std::max(look::scaled(20), fontMetrics().height())};
 }
 
@@ -63,7 +66,7 @@ void RadioButton::paintEvent(QPaintEvent*)
                                         : colours.control);
         painter.drawEllipse(circle.adjusted(0.5, 0.5, -0.5, -0.5));
     }
-    const QRectF label = QRectF(rect()).adjusted(indicator + 4, 0, 0, 0);
+    const QRectF label = QRectF(rect()).adjusted(indicator + look::scaled(symbolGap), 0, 0, 0);
     if (hasFocus()) { // a ring in the circle, and a line below the text
         painter.setPen(QPen(colours.teal, 2));
         painter.setBrush(Qt::NoBrush);
@@ -95,6 +98,16 @@ QSize PopUpButton::minimumSizeHint() const
     return {80, look::scaled(controlHeight)};
 }
 
+void PopUpButton::showPopup()
+{
+    // As other menus. What is below the entries is painted in the one colour, the entries in the other.
+    QPalette own;
+    for (const auto role : {QPalette::Base, QPalette::Window})
+        own.setColor(role, look::colours(this).control);
+    view()->setPalette(own);
+    QComboBox::showPopup();
+}
+
 void PopUpButton::wheelEvent(QWheelEvent* event)
 {
     // Scrolling past must not change what is selected.
@@ -107,7 +120,9 @@ void PopUpButton::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF area = look::deviceAligned(this, rect());
-    painter.fillPath(look::continuousRect(area, 6), underMouse() ? colours.controlHovered : colours.control);
+    painter.setOpacity(isEnabled() ? 1 : 0.5);
+    painter.fillPath(look::continuousRect(area, 6),
+                     underMouse() && isEnabled() ? colours.controlHovered : colours.control);
     look::strokeInside(painter, area, 6, hasFocus() ? colours.teal : colours.separator, hasFocus() ? 2 : 1);
     const int side = look::scaled(symbolSize);
     drawSymbol(painter, QRectF(width() - 6 - side, (height() - side) / 2.0, side, side),
@@ -190,7 +205,7 @@ void Badge::setText(const QString& text)
 QSize Badge::sizeHint() const
 {
     const int symbol = look::scaled(badgeSymbolSize);
-    return {5 + symbol + 4 + fontMetrics().horizontalAdvance(m_text) + 5,
+    return {5 + symbol + look::scaled(symbolGap) + fontMetrics().horizontalAdvance(m_text) + 5,
             2 + std::max(symbol, fontMetrics().height()) + 2};
 }
 
@@ -205,8 +220,8 @@ void Badge::paintEvent(QPaintEvent*)
     drawSymbol(painter, QRectF(5, (height() - symbol) / 2.0, symbol, symbol), m_symbol, teal);
     painter.setPen(teal);
     painter.setFont(font());
-    painter.drawText(QRectF(rect()).adjusted(5 + symbol + 4, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                     m_text);
+    painter.drawText(QRectF(rect()).adjusted(5 + symbol + look::scaled(symbolGap), 0, 0, 0),
+                     Qt::AlignVCenter | Qt::AlignLeft, m_text);
 }
 
 SymbolView::SymbolView(const QString& symbol, int size, std::function<QColor(const Colours&)> colour,

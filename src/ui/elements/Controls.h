@@ -32,6 +32,7 @@ public:
     explicit PopUpButton(QWidget* parent = nullptr);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    void showPopup() override;
 
 protected:
     bool event(QEvent* event) override;

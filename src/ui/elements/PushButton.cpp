@@ -17,6 +17,7 @@ namespace
 
 constexpr int symbolGap = 5;
 constexpr int symbolSize = 16;
+constexpr int textPadding = 10;
 
 } // namespace
 
@@ -100,8 +101,8 @@ QSize PushButton::sizeHint() const
 {
     const bool large = m_size == Size::large;
     const int glyph = m_symbol.isEmpty() && !m_spinner ? 0 : look::scaled(symbolSize);
-    const int gap = glyph > 0 && !text().isEmpty() ? symbolGap : 0;
-    const int padding = m_kind == Kind::plain ? 0 : text().isEmpty() ? 7 : large ? 14 : 10;
+    const int gap = glyph > 0 && !text().isEmpty() ? look::scaled(symbolGap) : 0;
+    const int padding = m_kind == Kind::plain ? 0 : text().isEmpty() ? 7 : large ? 14 : textPadding;
     const int textWidth =
         std::max(fontMetrics().horizontalAdvance(text()), fontMetrics().horizontalAdvance(m_widestText));
     const int width = glyph + gap + textWidth + 2 * padding;
@@ -116,7 +117,8 @@ QSize PushButton::minimumSizeHint() const
 
 QRectF PushButton::symbolRect() const
 {
-    const int textWidth = text().isEmpty() ? 0 : symbolGap + fontMetrics().horizontalAdvance(text());
+    const int textWidth =
+        text().isEmpty() ? 0 : look::scaled(symbolGap) + fontMetrics().horizontalAdvance(text());
     const int side = look::scaled(symbolSize);
     const double left = (width() - side - textWidth) / 2.0;
     return {left, (height() - side) / 2.0, side * 1.0, side * 1.0};
@@ -174,9 +176,11 @@ void PushButton::paintEvent(QPaintEvent*)
     painter.setFont(font());
     QRectF label = area;
     if (hasGlyph)
-        label.setLeft(glyph.right() + symbolGap);
+        label.setLeft(glyph.right() + look::scaled(symbolGap));
+    const int room = width() - (hasGlyph ? qCeil(label.left()) : 2 * textPadding);
+    const bool isCut = fontMetrics().horizontalAdvance(text()) > room;
     painter.drawText(label, static_cast<int>(hasGlyph ? Qt::AlignVCenter | Qt::AlignLeft : Qt::AlignCenter),
-                     text());
+                     isCut ? fontMetrics().elidedText(text(), Qt::ElideMiddle, room) : text());
 }
 
 } // namespace ardeo

@@ -326,6 +326,14 @@ void ArdeoStyle::drawControl(ControlElement element, const QStyleOption* option,
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+    // The usual line below a menu bar has a gap after each title where points are no pixels.
+    const bool isOpen = (option->state & State_Sunken) != 0;
+    if (widget && !isOpen && (element == CE_MenuBarItem || element == CE_MenuBarEmptyArea)) {
+        const QRect line(option->rect.left(), option->rect.bottom(), option->rect.width(), 1);
+        const Colours& colours = look::colours(widget);
+        painter->fillRect(line.adjusted(0, -1, 0, 0), colours.window);
+        painter->fillRect(line, look::withOpacity(colours.separator, colours.separator.alphaF() * 0.6));
+    }
 }
 
 void ArdeoStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

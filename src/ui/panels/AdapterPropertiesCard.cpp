@@ -23,7 +23,10 @@ namespace
 class StatusDot final : public QWidget
 {
 public:
-    StatusDot() { setFixedSize(7, 7); }
+    StatusDot()
+    {
+        look::followTextSize(this, [this] { setFixedSize(look::scaled(7), look::scaled(7)); });
+    }
     void setActive(bool active)
     {
         m_active = active;
@@ -48,7 +51,7 @@ private:
 QWidget* makeStatusRow(MainViewModel& vm)
 {
     auto* status = new QWidget;
-    auto* row = rowIn(status, 6, {0, 0, 0, 4});
+    auto* row = growing(rowIn(status, 6, {0, 0, 0, 4}));
     auto* dot = new StatusDot;
     auto* text = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::tertiary);
     row->addWidget(dot);
@@ -124,7 +127,7 @@ QWidget* makeContent(MainViewModel& vm)
     auto* layers = new QStackedLayout(content); // as high as the live state, whichever is shown
     auto* loading = new QWidget;
     auto* column = columnIn(loading, 0);
-    auto* row = rowIn(column, 8);
+    auto* row = growing(rowIn(column, 8));
     row->addWidget(new Spinner(0.8));
     row->addWidget(
         new TextLabel(QStringLiteral("Loading…"), look::font(TextStyle::body), Emphasis::secondary));

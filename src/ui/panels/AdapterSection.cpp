@@ -60,6 +60,7 @@ QWidget* makePicker(MainViewModel& vm)
             picker->setAccessibleName(choices.placeholder.isEmpty() ? QStringLiteral("Select Adapter")
                                                                     : choices.placeholder);
             picker->setCurrentIndex(choices.selected);
+            picker->setEnabled(!choices.labels.isEmpty());
         });
     QObject::connect(picker, &QComboBox::activated, picker, [&vm](int index) {
         const QList<AdapterInfo> adapters = vm.adapters.value();

@@ -106,13 +106,13 @@ QWidget* LeftPanel::makeSearchRow()
     columnIn(frame, 0, {8, 0, 8, 4})->addWidget(row);
     auto* layout = rowIn(row, 2, {8, 0, 4, 0});
     layout->addWidget(new SymbolView(QStringLiteral("magnifyingglass"), 14, tertiary));
-    layout->addSpacing(4);
 
     auto* field = new QLineEdit;
     field->setFrame(false);
     field->setFont(look::font(TextStyle::callout));
     look::followTextSize(row, [field, row] {
         field->setFixedHeight(field->fontMetrics().height());
+        field->setTextMargins(look::scaled(4), 0, 0, 0);
         row->setFixedHeight(6 + field->height() + 6);
     });
     slantPlaceholder(*field);

@@ -98,7 +98,7 @@ QVBoxLayout* addCard(QVBoxLayout* stack, const char* title, const char* symbol, 
     card->setAccessibleName(QLatin1String(title));
     stack->addWidget(card);
     auto* column = columnIn(card, 12, {16, 16, 16, 16});
-    auto* heading = rowIn(column, 6);
+    auto* heading = growing(rowIn(column, 6));
     heading->addWidget(
         new SymbolView(QLatin1String(symbol), 16, [](const Colours& colours) { return colours.primary; }));
     heading->addWidget(
@@ -122,7 +122,7 @@ QLabel* makeAbout()
 /// A row of a card: what stands before it, and its title over its detail.
 void addRow(QVBoxLayout* rows, QWidget* leading, int spacing, const Entry& entry, int titleWeight, int lines)
 {
-    auto* row = rowIn(rows, spacing);
+    auto* row = growing(rowIn(rows, spacing));
     row->addWidget(leading, 0, Qt::AlignTop);
     auto* texts = columnIn(row, lines, 1);
     texts->addWidget(new TextLabel(inSystemWords(entry.title), look::font(TextStyle::callout, titleWeight),

@@ -77,7 +77,7 @@ QWidget* makeBox(const std::vector<Shortcut>& shortcuts)
 void addSection(QVBoxLayout* stack, const ShortcutSection& section)
 {
     auto* block = columnIn(stack, 10);
-    auto* heading = rowIn(block, 6);
+    auto* heading = growing(rowIn(block, 6));
     heading->addWidget(
         new SymbolView(section.icon, 14, [](const Colours& colours) { return colours.secondary; }));
     heading->addWidget(new TextLabel(section.title, look::font(TextStyle::subheadline, QFont::DemiBold),
@@ -88,7 +88,7 @@ void addSection(QVBoxLayout* stack, const ShortcutSection& section)
 
 void addHeader(QVBoxLayout* stack)
 {
-    auto* header = rowIn(stack, 12);
+    auto* header = growing(rowIn(stack, 12));
     header->setContentsMargins(0, 0, 0, 4);
     header->addWidget(new SymbolView(QStringLiteral("keyboard"), 22, teal));
     header->addWidget(new TextLabel(QStringLiteral("Keyboard Shortcuts"),
