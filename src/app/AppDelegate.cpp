@@ -6,28 +6,12 @@
 
 #include <QApplication>
 #include <QBackingStore>
-#include <QDialog>
 #include <QWindow>
 
 #include <malloc.h>
 
 namespace ardeo
 {
-
-namespace
-{
-
-/// The window that gets the keys: the window itself, or the sheet before it.
-QWindow& keyWindow(const QWidget& window)
-{
-    for (const QDialog* sheet : window.findChildren<QDialog*>()) {
-        if (sheet->isVisible() && sheet->isModal())
-            return *sheet->windowHandle();
-    }
-    return *window.windowHandle();
-}
-
-} // namespace
 
 void bringToFront(QWidget& window)
 {
@@ -37,7 +21,7 @@ void bringToFront(QWidget& window)
     window.setWindowState((handle ? handle->windowStates() : window.windowState()) & ~Qt::WindowMinimized);
     window.show();
     window.raise();
-    activateIgnoringOtherApps(keyWindow(window));
+    activateIgnoringOtherApps(*window.windowHandle());
 }
 
 void quit()

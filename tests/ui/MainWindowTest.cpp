@@ -738,18 +738,56 @@ private Q_SLOTS:
     void disablingAsksFirst()
     {
         Window w;
-        w.click("Disable Adapter");
+        w.activate();
+        auto* button = w.find<QAbstractButton>("Disable Adapter");
+        button->setFocus();
+        w.press(Qt::Key_Space);
         QVERIFY(w.shows("Disable Ethernet?") && w.shows("This will disconnect Ethernet from the network."));
-        QTest::keyClick(w.window->findChild<ConfirmationDialog*>(), Qt::Key_Return);
-        QVERIFY(!w.model->isApplying.value());
+        w.press(Qt::Key_Return);
+        QVERIFY(!w.model->isApplying.value() && button->hasFocus());
         w.settle();
-        w.click("Disable Adapter");
-        w.click("Disable");
+        for (const auto key : {Qt::Key_Space, Qt::Key_Tab, Qt::Key_Return})
+            w.press(key);
         w.finish();
-        QVERIFY(!w.model->selectedAdapter.value()->isEnabled);
+        QVERIFY(!w.model->selectedAdapter.value()->isEnabled && button->hasFocus());
         w.click("Enable Adapter");
         w.finish();
         QVERIFY(w.find<QAbstractButton>("Disable Adapter"));
+    }
+
+    void sheetsKeepTheirWindowFromBeingUsed()
+    {
+        Window w;
+        w.activate();
+        w.click("Save Profile…");
+        const QPointer<QDialog> sheet = w.find<QDialog>("Save Profile");
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(sheet);
+        QCOMPARE(accessible->role(), QAccessible::Dialog);
+        w.window->resize(800, 600);
+        QCOMPARE(sheet->geometry(), w.window->rect());
+        QWidget* picker = w.find<PopUpButton>("Select Adapter");
+        for (const QWidget* beneath : {picker, static_cast<QWidget*>(w.window->findChild<QMenuBar*>())})
+            QTest::mouseClick(w.window->windowHandle(), Qt::LeftButton, {},
+                              beneath->mapTo(w.window, QPoint(30, 10)));
+        for (const auto& [key, modifier] : {std::pair(Qt::Key_R, Qt::ControlModifier),
+                                            {Qt::Key_W, Qt::ControlModifier},
+                                            {Qt::Key_F, Qt::AltModifier}})
+            w.press(key, modifier);
+        QVERIFY(!w.model->isLoading.value() && w.window->isVisible() && !QApplication::activePopupWidget());
+        picker->setFocus();
+        QStringList order;
+        for (int i = 0; i < 4; ++i) {
+            order << QAccessible::queryAccessibleInterface(QApplication::focusWidget())
+                         ->text(QAccessible::Name);
+            w.press(Qt::Key_Tab);
+        }
+        QCOMPARE(order.join(u','), u"Profile name,Cancel,Save,Profile name"_s);
+        w.press(Qt::Key_Return); // on Cancel
+        QVERIFY(w.model->presetStore.presets().isEmpty() && (!sheet || !sheet->isVisible()));
+
+        w.click("Save Profile…");
+        w.click("Disable Adapter"); // as assistive technology can
+        QVERIFY(w.shows("Disable Ethernet?") && !w.shows("Save Profile"));
     }
 
     void menusShowWhatCanBeDone()

@@ -13,7 +13,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -138,20 +137,7 @@ public:
     void shoot(const char* name, int settleMilliseconds = 400)
     {
         settle(settleMilliseconds);
-        QPixmap picture = m_window.grab();
-        for (QDialog* dialog : m_window.findChildren<QDialog*>()) {
-            if (!dialog->isVisible())
-                continue;
-            QPainter painter(&picture);
-            painter.fillRect(m_window.rect(), QColor(0, 0, 0, 60));
-            const QRect place(QPoint((m_window.width() - dialog->width()) / 2, 90), dialog->size());
-            QPainterPath frame = look::continuousRect(place, 10);
-            painter.setClipPath(frame);
-            painter.drawPixmap(place.topLeft(), dialog->grab());
-            painter.setClipping(false);
-            look::strokeInside(painter, place, 10, look::colours(dialog).separator, 1);
-        }
-        save(picture, name);
+        save(m_window.grab(), name);
     }
     /// The window with one menu of its menu bar open.
     void shootMenu(int index, const char* name)

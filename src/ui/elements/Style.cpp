@@ -36,6 +36,7 @@ const Colours lightColours{
     .control = QColor(0xFF, 0xFF, 0xFF),
     .controlHovered = QColor(0xF3, 0xF5, 0xF8),
     .controlPressed = QColor(0xE4, 0xE7, 0xEC),
+    .backdrop = QColor(0, 0, 0, 52),
 };
 
 const Colours darkColours{
@@ -56,6 +57,7 @@ const Colours darkColours{
     .control = QColor(0x3A, 0x3E, 0x48),
     .controlHovered = QColor(0x3E, 0x42, 0x4B),
     .controlPressed = QColor(0x45, 0x4A, 0x55),
+    .backdrop = QColor(0, 0, 0, 96),
 };
 
 /// In points of the layout, which are 96 to the inch.

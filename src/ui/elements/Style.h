@@ -51,6 +51,8 @@ struct Colours {
     QColor control;
     QColor controlHovered;
     QColor controlPressed;
+    /// What a sheet lays over the rest of its window.
+    QColor backdrop;
 
     const QColor& of(Emphasis emphasis) const;
 };

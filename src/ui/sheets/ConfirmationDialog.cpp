@@ -11,20 +11,19 @@ namespace
 {
 
 constexpr int dialogWidth = 320;
-constexpr int padding = 24;
 
 } // namespace
 
 ConfirmationDialog::ConfirmationDialog(const QString& title, const QString& message,
                                        const QString& destructive, QWidget* parent)
-    : Sheet(title, parent)
+    : Sheet(title, dialogWidth, parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    auto* stack = columnIn(this, 8, {padding, padding, padding, padding});
+    auto* stack = makeColumn(8);
     const auto add = [stack](const QString& text, TextStyle style, Emphasis emphasis) {
         auto* label = new TextLabel(text, look::font(style), emphasis);
         label->setAlignment(Qt::AlignCenter);
-        label->setWordWrap(true);
+        label->setWrapped();
         stack->addWidget(label);
     };
     add(title, TextStyle::headline, Emphasis::primary);
@@ -41,16 +40,10 @@ ConfirmationDialog::ConfirmationDialog(const QString& title, const QString& mess
         button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         stack->addWidget(button);
     }
-    go->setToolTip(destructive);
+    go->setToolTip(toolTipText(destructive));
     go->setAccessibleName(destructive);
     connect(go, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    look::followTextSize(this, [this, stack, go, destructive] {
-        const int width = look::scaled(dialogWidth);
-        go->setText(go->fontMetrics().elidedText(destructive, Qt::ElideMiddle, width - 2 * padding - 20));
-        setFixedSize(width,
-                     stack->hasHeightForWidth() ? stack->totalHeightForWidth(width) : sizeHint().height());
-    });
     cancel->setFocus();
 }
 

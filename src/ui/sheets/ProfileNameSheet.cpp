@@ -16,6 +16,8 @@ namespace ardeo
 namespace
 {
 
+constexpr int sheetWidth = 320;
+
 bool isBlank(const QString& name)
 {
     return std::ranges::all_of(name,
@@ -27,10 +29,10 @@ bool isBlank(const QString& name)
 ProfileNameSheet::ProfileNameSheet(Observed<Text>& name, const QString& title, const QString& confirm,
                                    std::function<void()> onConfirm, std::function<void()> onCancel,
                                    QWidget* parent)
-    : Sheet(title, parent)
+    : Sheet(title, sheetWidth, parent)
     , m_onCancel(std::move(onCancel))
 {
-    auto* stack = columnIn(this, 20, {24, 24, 24, 24});
+    auto* stack = makeColumn(20);
     stack->addWidget(new TextLabel(title, look::font(TextStyle::headline), Emphasis::primary), 0,
                      Qt::AlignHCenter);
 
@@ -61,10 +63,7 @@ ProfileNameSheet::ProfileNameSheet(Observed<Text>& name, const QString& title, c
     const auto isNamed = [&name] { return !isBlank(name.value()); };
     bind(this, isNamed, [save](bool named) { save->setEnabled(named); });
 
-    look::followTextSize(this, [this, field] {
-        field->setFixedWidth(look::scaled(260));
-        setFixedSize(look::scaled(320), sizeHint().height());
-    });
+    look::followTextSize(field, [field] { field->setFixedWidth(look::scaled(260)); });
     field->setFocus();
 }
 
