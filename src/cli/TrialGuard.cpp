@@ -64,9 +64,10 @@ int ask(int orders, int reports, std::chrono::seconds time)
         const auto left =
             std::chrono::ceil<std::chrono::seconds>(deadline - std::chrono::steady_clock::now());
         if (!isAnswered)
-            std::fprintf(stderr,
-                         "\rKeep this change? Enter keeps it, u and Enter takes it back; so does waiting %lld s. ",
-                         static_cast<long long>(std::max<std::int64_t>(0, left.count())));
+            std::fprintf(
+                stderr,
+                "\rKeep this change? Enter keeps it, u and Enter takes it back; so does waiting %lld s. ",
+                static_cast<long long>(std::max<std::int64_t>(0, left.count())));
         std::array<pollfd, 2> sources{pollfd{reports, POLLIN, 0}, pollfd{STDIN_FILENO, POLLIN, 0}};
         poll(sources.data(), isAnswered ? 1 : 2, isAnswered ? -1 : 1000);
         if (sources[0].revents != 0)

@@ -63,8 +63,8 @@ public:
     /// The program that keeps the running action waiting, once it has done so for half a second.
     Observed<std::optional<LockHolder>> waitsFor;
     Observed<bool> isLoginItem;
-    /// How many seconds are left to confirm a change of the selected service that is on trial; none where none
-    /// is. Counted down while somebody shows the model.
+    /// How many seconds are left to confirm a change of the selected service that is on trial; none where
+    /// none is. Counted down while somebody shows the model.
     Observed<std::optional<qint64>> secondsToConfirm;
     /// How many changes on trial are taken back by this model when nobody confirms them.
     Observed<int> guardedTrials{0};

@@ -19,7 +19,10 @@ public:
     QList<qint64> asked;
 
     std::chrono::nanoseconds continuousTime() const override { return m_now; }
-    double referenceTime() const override { return 800e6 + std::chrono::duration<double>(continuousTime()).count(); }
+    double referenceTime() const override
+    {
+        return 800e6 + std::chrono::duration<double>(continuousTime()).count();
+    }
     QFuture<void> sleep(std::chrono::milliseconds duration) override
     {
         auto promise = std::make_shared<QPromise<void>>();

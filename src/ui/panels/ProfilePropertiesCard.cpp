@@ -170,8 +170,7 @@ QWidget* makeTrialRow(MainViewModel& vm)
     auto* keep = new PushButton(QStringLiteral("Keep"), QString(), PushButton::Kind::bordered);
     QObject::connect(keep, &QPushButton::clicked, keep, [&vm] { vm.endTrial(true); });
     bind(
-        keep, [&vm] { return !vm.isApplying.value(); },
-        [keep](bool possible) { keep->setUsable(possible); });
+        keep, [&vm] { return !vm.isApplying.value(); }, [keep](bool possible) { keep->setUsable(possible); });
     row->addWidget(keep);
     auto* left = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::secondary);
     left->setWordWrap(true);
