@@ -39,7 +39,7 @@ bool ServiceChanges::askForLease() const
 
 QString trialReason()
 {
-    return QStringLiteral("An earlier change of it awaits confirmation.");
+    return QStringLiteral("An earlier change of it awaits confirmation; confirm it or take it back first.");
 }
 
 QString noTrialReason()

@@ -28,10 +28,15 @@ equal() {
     fi
 }
 
+# wait_for COMMAND...: until the command succeeds, at most twenty seconds.
+wait_for() {
+    local deadline=$((SECONDS + 20))
+    until "$@" >/dev/null 2>&1 || [[ $SECONDS -ge $deadline ]]; do sleep 0.05; done
+}
+
 # eventually WHAT COMMAND...: the command succeeds within twenty seconds.
 eventually() {
-    local deadline=$((SECONDS + 20))
-    until "${@:2}" >/dev/null 2>&1 || [[ $SECONDS -ge $deadline ]]; do sleep 0.05; done
+    wait_for "${@:2}"
     holds "$@"
 }
 

@@ -36,6 +36,7 @@ private:
     SystemStatus putOnTrial(const Profile& profile, NMConnection* changed, NMConnection* before);
     SystemStatus endTrial(Profile& profile, bool keep);
     SystemStatus takeBack(Profile& profile, bool wasSaved);
+    void awaitLease(const Profile& profile);
     SystemStatus apply(const Profile& profile);
     SystemStatus applyToActive(const Profile& profile, NMActiveConnection* active);
     SystemStatus applyToInactive(const Profile& profile);

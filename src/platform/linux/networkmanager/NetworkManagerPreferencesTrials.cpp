@@ -1,9 +1,12 @@
+#include "platform/ConfigurationKeys.h"
 #include "platform/linux/networkmanager/NetworkManagerError.h"
 #include "platform/linux/networkmanager/NetworkManagerPreferences.h"
 #include "platform/linux/networkmanager/NetworkManagerServices.h"
 #include "platform/linux/networkmanager/PolkitRights.h"
 #include "platform/linux/networkmanager/ProfileTranslation.h"
 #include "platform/linux/networkmanager/ProfileTrial.h"
+
+#include <algorithm>
 
 namespace ardeo
 {
@@ -13,6 +16,29 @@ namespace
 
 /// How much longer the daemon waits before it takes a trial back than whoever began it, and does so as well.
 constexpr std::chrono::seconds reserve(5);
+/// How long the daemon leaves that to whoever has begun to take the trial back.
+constexpr guint32 secondsToTakeBack = 60;
+
+/// The checkpoint may be gone: the daemon forgets it when it is started anew.
+void askCheckpoint(NetworkManagerSession& session, const char* method, GVariant* arguments)
+{
+    GLibError isGone;
+    session.ask(method, arguments, nullptr, isGone);
+}
+
+/// The daemon tells the time of the last connection in place of the one in the file, so that the file would
+/// be another one when it is written back. Whoever may not read it sees no difference.
+void takeTimestampOfFile(NMRemoteConnection* saved, NMConnection* profile)
+{
+    const char* file = nm_remote_connection_get_filename(saved);
+    const std::unique_ptr<GKeyFile, decltype(&g_key_file_unref)> content(g_key_file_new(), &g_key_file_unref);
+    if (!file || !g_key_file_load_from_file(content.get(), file, G_KEY_FILE_NONE, nullptr))
+        return;
+    const guint64 timestamp = g_key_file_get_uint64(content.get(), NM_SETTING_CONNECTION_SETTING_NAME,
+                                                    NM_SETTING_CONNECTION_TIMESTAMP, nullptr);
+    g_object_set(nm_connection_get_setting_connection(profile), NM_SETTING_CONNECTION_TIMESTAMP, timestamp,
+                 nullptr);
+}
 
 } // namespace
 
@@ -44,12 +70,11 @@ SystemStatus NetworkManagerPreferences::putOnTrial(const Profile& profile, NMCon
     const char* checkpoint = nullptr;
     g_variant_get(answer.get(), "(&o)", &checkpoint);
     const bool wasSaved = !nm_remote_connection_get_unsaved(profile.connection.get());
+    takeTimestampOfFile(profile.connection.get(), before);
     ardeo::putOnTrial(changed, before, continuousTime() + *m_trial, checkpoint, wasSaved);
     const SystemStatus status = update(profile, changed, NM_SETTINGS_UPDATE2_FLAG_IN_MEMORY);
-    if (status != SystemStatus::ok) {
-        GLibError ignored;
-        m_session->ask("CheckpointDestroy", g_variant_new("(o)", checkpoint), nullptr, ignored);
-    }
+    if (status != SystemStatus::ok)
+        askCheckpoint(*m_session, "CheckpointDestroy", g_variant_new("(o)", checkpoint));
     return status;
 }
 
@@ -81,16 +106,27 @@ SystemStatus NetworkManagerPreferences::endTrial(Profile& profile, bool keep)
         m_session->refuse(noTrialReason());
         return SystemStatus::noKey;
     }
+    const char* checkpoint = trial->checkpoint.c_str();
     if (keep) {
         confirm(settings.get());
         status = update(profile, settings.get(), NM_SETTINGS_UPDATE2_FLAG_TO_DISK);
-        if (status != SystemStatus::ok)
-            return status;
+        if (status == SystemStatus::ok)
+            askCheckpoint(*m_session, "CheckpointDestroy", g_variant_new("(o)", checkpoint));
+        return status;
     }
-    GLibError isGone;
-    m_session->ask(keep ? "CheckpointDestroy" : "CheckpointRollback",
-                   g_variant_new("(o)", trial->checkpoint.c_str()), nullptr, isGone);
-    return keep ? SystemStatus::ok : takeBack(profile, trial->wasSaved);
+    // The daemon's way activates the profile anew, and with it goes what was connected over it and the rank
+    // of its routes and DNS servers. But only the daemon knows what an enabled service has displaced.
+    if (isEnabled(trial->before.get()) || !isEnabled(settings.get())) {
+        askCheckpoint(*m_session, "CheckpointAdjustRollbackTimeout",
+                      g_variant_new("(ou)", checkpoint, secondsToTakeBack));
+        status = takeBack(profile, trial->wasSaved);
+        if (status == SystemStatus::ok) {
+            askCheckpoint(*m_session, "CheckpointDestroy", g_variant_new("(o)", checkpoint));
+            return status;
+        }
+    }
+    askCheckpoint(*m_session, "CheckpointRollback", g_variant_new("(o)", checkpoint));
+    return takeBack(profile, trial->wasSaved);
 }
 
 /// Does what the daemon's checkpoint did not: it knows of no profile that was not active when it was made,
@@ -105,19 +141,38 @@ SystemStatus NetworkManagerPreferences::takeBack(Profile& profile, bool wasSaved
     if (!trial)
         return wasSaved ? update(profile, nullptr, NM_SETTINGS_UPDATE2_FLAG_TO_DISK) : SystemStatus::ok;
     const bool wasEnabled = isEnabled(trial->before.get());
-    if (wasEnabled != isEnabled(settings.get()))
-        profile.changes.enabled = wasEnabled;
+    const bool wasSwitched = wasEnabled != isEnabled(settings.get());
     ardeo::takeBack(settings.get(), *trial);
-    profile.changes.ipv4 = ipv4DictionaryOf(settings.get());
-    const SystemStatus status =
+    SystemStatus status =
         update(profile, settings.get(),
                wasSaved ? NM_SETTINGS_UPDATE2_FLAG_TO_DISK : NM_SETTINGS_UPDATE2_FLAG_IN_MEMORY);
     if (status != SystemStatus::ok)
         return status;
+    if (wasSwitched)
+        profile.changes.enabled = wasEnabled;
+    // Not as a change of the method: with that, a lease that has never been away would be asked for anew.
+    profile.changes.ipv4 = Dictionary{{routerKey, ipv4DictionaryOf(settings.get()).value(routerKey)}};
     profile.committed = std::move(settings);
     for (NMActiveConnection* active : activationsOf(m_session->client(), profile.connection.get()))
         profile.activationsBefore.insert(nm_object_get_path(NM_OBJECT(active)));
-    return apply(profile);
+    status = apply(profile);
+    if (status == SystemStatus::ok && wasEnabled)
+        awaitLease(profile);
+    return status;
+}
+
+/// What is shown after a trial is then what will stay. A network may also take its time, or never answer.
+void NetworkManagerPreferences::awaitLease(const Profile& profile)
+{
+    constexpr int usualMilliseconds = 3000;
+    const QDeadlineTimer limit = std::min(m_session->daemonDeadline(), QDeadlineTimer(usualMilliseconds));
+    NMClient* client = m_session->client();
+    if (!client || ipv4DictionaryOf(profile.committed.get()).value(configMethodKey) != methodDHCP)
+        return;
+    m_session->loop().runUntil(limit, [&] {
+        const auto devices = devicesOf(client, profile.connection.get());
+        return std::ranges::all_of(devices, &nm_device_get_dhcp4_config);
+    });
 }
 
 } // namespace ardeo
