@@ -8,6 +8,7 @@
 
 using namespace ardeo;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
@@ -90,11 +91,14 @@ class ConformanceTest : public QObject
         return state(u"State:/Network/Service/%1/IPv4"_s.arg(id)).value_or(QVariant()).toMap();
     }
     /// The whole transaction; the status of the step that was refused, or 0.
-    qint32 change(const QString& service, const std::function<void(NetworkService&)>& step)
+    qint32 change(const QString& service, const std::function<void(NetworkService&)>& step,
+                  std::optional<std::chrono::seconds> trial = {})
     {
         const auto preferences = open();
         if (!preferences->lock(true))
             return m_system.error();
+        if (trial)
+            preferences->beginTrial(*trial);
         step(*find(*preferences, service));
         const bool done = preferences->commitChanges() && preferences->applyChanges();
         const qint32 status = m_system.error();
@@ -190,6 +194,39 @@ private Q_SLOTS:
         first.reset(); // gives its lock up
         QVERIFY(second->lock(false));
         QCOMPARE(refusal(second->commitChanges()), qint32(SystemStatus::stale));
+    }
+
+    void aTrialEndsAsItIsTold()
+    {
+        const Dictionary tried = manual("10.77.0.63", "255.255.255.0", "10.77.0.1");
+        const auto endTrial = [this](bool keep) {
+            const auto preferences = open();
+            const QString id = *find(*preferences, m_wired)->serviceID();
+            const bool done = preferences->lock(true) && preferences->endTrial(id, keep);
+            return done ? 0 : m_system.error();
+        };
+        const auto deadline = [this] {
+            return find(*m_system.createPreferences(name), m_wired)->confirmBy();
+        };
+        const auto onTrial = [&](const QString& service) {
+            const auto step = [&](NetworkService& found) { found.protocol(ipv4)->setConfiguration(tried); };
+            return change(service, step, 60s);
+        };
+        for (const bool keep : {false, true}) {
+            QCOMPARE(onTrial(m_wired), 0);
+            QTRY_COMPARE(live(m_wired), inForce(tried));
+            const auto left = deadline().value_or(0ms) - m_platform.clock->continuousTime();
+            QVERIFY(left > 30s && left <= 60s);
+            QCOMPARE(onTrial(m_wired), qint32(SystemStatus::preferencesBusy));
+            QCOMPARE(endTrial(keep), 0);
+            QCOMPARE(saved(m_wired, ipv4), keep ? tried : dhcp);
+            QTRY_COMPARE(live(m_wired) == inForce(tried), keep);
+            QVERIFY(live(m_wired).contains(u"Router"_s) && !deadline());
+            QCOMPARE(endTrial(keep), qint32(SystemStatus::noKey));
+        }
+        QCOMPARE(write(m_wired, dhcp), 0);
+        // Nothing that the daemon could take back by itself.
+        QCOMPARE(onTrial(m_vpn), m_real ? qint32(SystemStatus::failed) : 0);
     }
 
     void whatOthersDoIsSeenAtOnce()
