@@ -170,6 +170,15 @@ QFuture<NetworkAdapterInfo> NetworkConfigService::currentConfig(const Text& serv
         [this, serviceName](Opened& opened) { return readConfiguration(m_system, serviceName, opened); });
 }
 
+QFuture<ChangePlan> NetworkConfigService::planConfiguration(const Text& serviceName,
+                                                            const NetworkAdapterInfo& configuration,
+                                                            std::optional<Settings> named)
+{
+    return run([this, serviceName, configuration, named](Opened&) {
+        return planChange(m_system, serviceName, configuration, named);
+    });
+}
+
 QFuture<void> NetworkConfigService::writeConfiguration(const Text& serviceName,
                                                        const NetworkAdapterInfo& configuration,
                                                        AuthorizationRef authorization,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backend/AdapterInfo.h"
+#include "backend/ChangePlan.h"
 #include "backend/ServiceWriting.h"
 #include "platform/SystemConfiguration.h"
 
@@ -34,6 +35,9 @@ public:
     QFuture<QList<AdapterInfo>> listAdapters();
     /// The service's configuration with its live state. What cannot be read is as in the empty record.
     QFuture<NetworkAdapterInfo> currentConfig(const Text& serviceName);
+    /// What writing the record, or of it what is named, would change. Fails with ConfigError.
+    QFuture<ChangePlan> planConfiguration(const Text& serviceName, const NetworkAdapterInfo& configuration,
+                                          std::optional<Settings> named = {});
     /// How long a change can be confirmed before the system takes it back; none for one that needs no
     /// confirmation.
     using Trial = std::optional<std::chrono::seconds>;

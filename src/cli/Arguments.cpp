@@ -23,9 +23,13 @@ const QString confirmWithinOption = QStringLiteral("confirm-within");
 constexpr std::chrono::seconds shortestTrial(5);
 constexpr std::chrono::seconds longestTrial(3600);
 
+const QString dryRunOption = QStringLiteral("dry-run");
+const QString profilesOption = QStringLiteral("profiles");
+
 const QStringList applyOptions{
     QStringLiteral("dhcp"), QStringLiteral("address"), QStringLiteral("mask"),    QStringLiteral("router"),
-    QStringLiteral("dns"),  QStringLiteral("search"),  QStringLiteral("profile"), confirmWithinOption,
+    QStringLiteral("dns"),  QStringLiteral("search"),  QStringLiteral("profile"), profilesOption,
+    dryRunOption,           QStringLiteral("json"),    confirmWithinOption,
 };
 
 const QHash<QString, CommandForm> commandForms{
@@ -37,6 +41,7 @@ const QHash<QString, CommandForm> commandForms{
     {QStringLiteral("disable"), {Command::disable, QStringLiteral("SERVICE"), {confirmWithinOption}}},
     {QStringLiteral("confirm"), {Command::confirm, QStringLiteral("[SERVICE]"), {}}},
     {QStringLiteral("undo"), {Command::undo, QStringLiteral("[SERVICE]"), {}}},
+    {QStringLiteral("watch"), {Command::watch, {}, {QStringLiteral("json")}}},
     {QStringLiteral("profiles"), {Command::profiles, {}, {QStringLiteral("json")}}},
     {QStringLiteral("profiles export"), {Command::exportProfiles, QStringLiteral("FILE"), {}}},
 };
@@ -92,6 +97,8 @@ QString takeSettings(Arguments& arguments, const QCommandLineParser& parser)
     arguments.router = valueOf(QStringLiteral("router"));
     arguments.search = valueOf(QStringLiteral("search"));
     arguments.profile = valueOf(QStringLiteral("profile"));
+    arguments.profilesFile = valueOf(profilesOption);
+    arguments.dryRun = parser.isSet(dryRunOption);
     if (const auto time = valueOf(confirmWithinOption)) {
         bool isNumber = false;
         arguments.confirmWithin = std::chrono::seconds(time->toInt(&isNumber));
@@ -108,6 +115,10 @@ QString takeSettings(Arguments& arguments, const QCommandLineParser& parser)
     if (arguments.profile && (arguments.dhcp || addressed || arguments.router || arguments.search ||
                               parser.isSet(QStringLiteral("dns"))))
         return QStringLiteral("--profile brings all settings along and takes no others beside it.");
+    if (arguments.profilesFile && !arguments.profile)
+        return QStringLiteral("--profiles needs --profile.");
+    if (arguments.dryRun && arguments.confirmWithin)
+        return QStringLiteral("--dry-run changes nothing, and takes no --confirm-within.");
     if (arguments.dhcp && (addressed || arguments.router))
         return QStringLiteral("--dhcp takes no --address, --mask or --router.");
     if (addressed && !(arguments.address && arguments.mask))
@@ -137,6 +148,8 @@ std::variant<Arguments, UsageError> parseArguments(const QStringList& commandLin
         {QStringLiteral("dns"), {}, text},
         {QStringLiteral("search"), {}, text},
         {QStringLiteral("profile"), {}, text},
+        {profilesOption, {}, text},
+        {dryRunOption, {}},
         {confirmWithinOption, {}, text},
         {{QStringLiteral("h"), QStringLiteral("help")}, {}},
         {{QStringLiteral("v"), QStringLiteral("version")}, {}},
@@ -159,7 +172,7 @@ std::variant<Arguments, UsageError> parseArguments(const QStringList& commandLin
     if (!error.isEmpty())
         return UsageError{error};
     const QStringList allowed = commandForms.value(name).options;
-    for (const QString& option : applyOptions + QStringList(QStringLiteral("json"))) {
+    for (const QString& option : applyOptions) {
         if (parser.isSet(option) && !allowed.contains(option))
             return UsageError{QStringLiteral("'%1' takes no --%2.").arg(name, option)};
     }
@@ -180,10 +193,12 @@ Commands:
   list [--json]                 the network services, connected ones first
   show SERVICE [--json]         the settings and the state of one service
   apply SERVICE [SETTINGS]      change a service; what is not named keeps its present value
-  apply SERVICE --profile=NAME  the same with the settings of a saved profile
+  apply SERVICE --profile=NAME [--profiles=FILE]
+                                the same with the settings of a saved profile, or of one that was exported
   renew SERVICE                 put the service on DHCP and take a new lease
   enable SERVICE                switch the service on
   disable SERVICE               switch the service off, and keep it off
+  watch [--json]                one line for each change of a service, until it is ended
   confirm [SERVICE]             keep what was changed on trial, of one service or of all
   undo [SERVICE]                take it back at once
   profiles [--json]             the saved profiles
@@ -196,6 +211,10 @@ Settings:
   --dns=auto                    take the DNS servers from the network
   --dns=A[,B]                   DNS servers set by hand
   --search="D D"                search domains, with DNS servers set by hand
+
+For scripts (apply):
+  --dry-run                     only say what would change; nobody is asked for a password
+  --json                        whether something has changed, and what
 
 Trial (apply, renew, enable, disable):
   --confirm-within=SECONDS      take the change back by itself unless it is confirmed in time

@@ -24,6 +24,7 @@ struct Arguments {
         disable,
         confirm,
         undo,
+        watch,
         profiles,
         exportProfiles
     };
@@ -35,6 +36,8 @@ struct Arguments {
     bool json = false;
     /// The service's name, for the commands that take one; empty where confirm and undo mean all.
     QString service;
+    /// Whether only to say what would change.
+    bool dryRun = false;
     /// How long a change can be confirmed before it is taken back; none for one that stays.
     std::optional<std::chrono::seconds> confirmWithin;
     /// Where to export to.
@@ -42,6 +45,8 @@ struct Arguments {
 
     // What an apply names; everything else keeps its present value.
     std::optional<QString> profile;
+    /// The file that the profile is in; none where it is one of the saved ones.
+    std::optional<QString> profilesFile;
     bool dhcp = false;
     std::optional<QString> address;
     std::optional<QString> mask;

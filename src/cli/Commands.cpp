@@ -1,7 +1,10 @@
 #include "cli/Commands.h"
 
 #include "backend/Errors.h"
-#include "cli/Output.h"
+#include "cli/Failure.h"
+#include "cli/FormSettings.h"
+#include "cli/JsonOutput.h"
+#include "cli/Watch.h"
 
 #include <QFile>
 
@@ -14,23 +17,6 @@ namespace
 {
 
 using Command = Arguments::Command;
-
-/// Thrown to end a command early.
-struct Failure {
-    Outcome outcome;
-};
-
-/// The reason, where there is one, is a line of its own.
-[[noreturn]] void fail(const QString& error, const QString& reason = {}, int status = 1)
-{
-    const QString text = reason.isEmpty() ? printable(error) : printable(error) + u'\n' + printable(reason);
-    throw Failure{{.status = status, .output = {}, .error = text, .changed = false, .model = {}}};
-}
-
-[[noreturn]] void failUsage(const QString& error)
-{
-    fail(error, {}, 2);
-}
 
 /// One command on its way through the model.
 class Run
@@ -60,12 +46,15 @@ public:
 
     QByteArray apply()
     {
-        const auto preset = namedPreset();
         select();
-        if (preset)
-            m_model->loadPreset(*preset);
-        const auto named = preset ? std::nullopt : std::optional(takeSettings());
-        return act(m_model->applyConfiguration(named, m_arguments.confirmWithin));
+        const auto named = takeSettings(m_arguments, *m_model);
+        const auto plan = QCoro::waitFor(m_model->planConfiguration(named));
+        throwError();
+        if (m_arguments.dryRun || !plan->isNeeded())
+            return m_arguments.json ? planAsJson(*plan, m_model->currentConfig.value())
+                                    : planAsText(*plan, m_arguments.service).toUtf8();
+        const QByteArray shown = act(m_model->applyConfiguration(named, m_arguments.confirmWithin));
+        return m_arguments.json ? planAsJson(*plan, m_model->currentConfig.value()) : shown;
     }
 
     QByteArray renew()
@@ -117,6 +106,9 @@ public:
         return {};
     }
 
+    /// Whether a change has been made.
+    bool changed() const { return m_changed; }
+
 private:
     void throwTrouble() const
     {
@@ -155,78 +147,21 @@ private:
         throwTrouble();
     }
 
-    std::optional<NetworkPreset> namedPreset() const
-    {
-        if (!m_arguments.profile)
-            return std::nullopt;
-        throwIfUnreadable();
-        const auto& presets = m_model->presetStore.presets();
-        const Text name(*m_arguments.profile);
-        const auto count = std::ranges::count(presets, name, &NetworkPreset::name);
-        if (count == 0)
-            failUsage(QStringLiteral("There is no profile '%1'.").arg(*m_arguments.profile));
-        if (count > 1)
-            failUsage(QStringLiteral("%1 profiles are named '%2'.").arg(count).arg(*m_arguments.profile));
-        return *std::ranges::find(presets, name, &NetworkPreset::name);
-    }
-
-    /// Takes what the command line names into the form, and returns what that is.
-    Settings takeSettings()
-    {
-        Settings named = takeAddress();
-        if (m_arguments.automaticDNS) {
-            m_model->dnsMode = DNSMode::automatic;
-            named |= Settings(Setting::dnsServers) | Setting::searchDomains;
-        }
-        if (m_arguments.dns) {
-            m_model->dnsMode = DNSMode::manual;
-            m_model->primaryDNS = m_arguments.dns->value(0);
-            m_model->alternateDNS = m_arguments.dns->value(1);
-            named |= Setting::dnsServers;
-        }
-        if (m_arguments.search) {
-            if (m_model->dnsMode.value() == DNSMode::automatic && !m_arguments.search->trimmed().isEmpty())
-                failUsage(QStringLiteral("--search needs --dns: automatic DNS keeps no search domains."));
-            m_model->searchDomains = *m_arguments.search;
-            named |= Setting::searchDomains;
-        }
-        return named;
-    }
-
-    Settings takeAddress()
-    {
-        const bool wasManual = m_model->ipv4Mode.value() == IPv4Mode::manual;
-        Settings named;
-        if (m_arguments.dhcp) {
-            m_model->ipv4Mode = IPv4Mode::dhcp;
-            named |= Setting::ipv4Mode;
-        }
-        if (m_arguments.address) {
-            m_model->ipv4Mode = IPv4Mode::manual;
-            m_model->ipAddress = *m_arguments.address;
-            m_model->subnetMask = m_arguments.mask.value_or(QString());
-            // Beside a manual address the gateway that the network gave is kept as one of the service's own.
-            named |= Settings(Setting::ipv4Mode) | Setting::address;
-            named.setFlag(Setting::router, !wasManual);
-        }
-        if (m_arguments.router) {
-            if (m_model->ipv4Mode.value() == IPv4Mode::dhcp)
-                failUsage(QStringLiteral("--router needs --address and --mask."));
-            m_model->router = *m_arguments.router;
-            named |= Setting::router;
-        }
-        return named;
-    }
-
     QByteArray act(QCoro::Task<> action)
     {
         QCoro::waitFor(action);
+        throwError();
+        throwTrouble();
+        m_changed = true;
+        return shown();
+    }
+
+    void throwError() const
+    {
         if (const auto error = m_model->applyError.value()) {
             const auto fault = m_model->applyFault.value();
             fail(*error, fault ? fault->reason : QString());
         }
-        throwTrouble();
-        return shown();
     }
 
     QByteArray shown() const
@@ -251,15 +186,10 @@ private:
     Platform& m_platform;
     bool m_colour;
     std::shared_ptr<MainViewModel> m_model;
+    bool m_changed = false;
 };
 
-bool isChange(Command command)
-{
-    return command == Command::apply || command == Command::renew || command == Command::enable ||
-           command == Command::disable || command == Command::confirm || command == Command::undo;
-}
-
-QByteArray outputOf(const Arguments& arguments, Run run)
+QByteArray outputOf(const Arguments& arguments, Run& run)
 {
     switch (arguments.command) {
     case Command::list:
@@ -282,6 +212,7 @@ QByteArray outputOf(const Arguments& arguments, Run run)
         return run.profiles();
     case Command::exportProfiles:
         return run.exportProfiles();
+    case Command::watch:
     case Command::help:
     case Command::version:
         break;
@@ -291,22 +222,27 @@ QByteArray outputOf(const Arguments& arguments, Run run)
 
 } // namespace
 
-Outcome runCommand(const Arguments& arguments, Platform& platform, bool colour,
-                   const std::function<void(const QString&)>& tell)
+Outcome runCommand(const Arguments& arguments, Platform& platform, bool colour, const Listeners& listeners)
 {
     const auto model = MainViewModel::create(platform);
     const auto waiting = model->waitsFor.subscribe([&] {
         if (const auto holder = model->waitsFor.value())
-            tell(waitingDescription(*holder));
+            listeners.tell(waitingDescription(*holder));
     });
     Outcome outcome;
-    try {
-        outcome.output = outputOf(arguments, Run(arguments, platform, colour, model));
-        outcome.changed = isChange(arguments.command);
-    } catch (const Failure& failure) {
-        outcome = failure.outcome;
-    }
     outcome.model = model;
+    if (arguments.command == Command::watch) {
+        watch(model->configService, platform, arguments.json, listeners.print);
+        return outcome;
+    }
+    Run run(arguments, platform, colour, model);
+    try {
+        outcome.output = outputOf(arguments, run);
+        outcome.changed = run.changed();
+    } catch (const Failure& failure) {
+        outcome.error = failure.error;
+        outcome.status = failure.status;
+    }
     return outcome;
 }
 

@@ -19,9 +19,15 @@ struct Outcome {
     std::shared_ptr<MainViewModel> model;
 };
 
+/// Who gets what a command has to say before it ends.
+struct Listeners {
+    /// Notes for the user, as one line each.
+    std::function<void(const QString&)> tell;
+    /// Output, whole lines of it; false when it cannot be written.
+    std::function<bool(const QByteArray&)> print;
+};
+
 /// Runs a command on the platform and returns when it has ended.
-/// Notes on the way are given to tell, as one line each.
-Outcome runCommand(const Arguments& arguments, Platform& platform, bool colour,
-                   const std::function<void(const QString&)>& tell);
+Outcome runCommand(const Arguments& arguments, Platform& platform, bool colour, const Listeners& listeners);
 
 } // namespace ardeo

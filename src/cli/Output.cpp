@@ -1,6 +1,8 @@
 #include "cli/Output.h"
 
-#include <nlohmann/json.hpp>
+#include "platform/ConfigurationKeys.h"
+
+#include <QHash>
 
 #include <algorithm>
 #include <cwchar>
@@ -10,8 +12,6 @@ namespace ardeo
 
 namespace
 {
-
-using Json = nlohmann::ordered_json;
 
 enum class Tint { none, strong, faint, good };
 
@@ -72,10 +72,20 @@ Cell stateOf(const AdapterInfo& adapter, std::chrono::nanoseconds now)
 {
     const auto seconds = adapter.secondsToConfirm(now);
     const QString trial = seconds ? QStringLiteral(", %1 s to confirm").arg(*seconds) : QString();
-    if (adapter.isActive)
-        return {QStringLiteral("connected") + trial, Tint::good};
-    const QString state = adapter.isEnabled ? QStringLiteral("disconnected") : QStringLiteral("disabled");
-    return {state + trial, Tint::faint};
+    return {stateText(adapter) + trial, adapter.isActive ? Tint::good : Tint::faint};
+}
+
+QString labelOf(const QString& settingKey)
+{
+    static const QHash<QString, QString> labels{
+        {configMethodKey, QStringLiteral("Mode:")},
+        {addressesKey, QStringLiteral("IP Address:")},
+        {subnetMasksKey, QStringLiteral("Subnet Mask:")},
+        {routerKey, QStringLiteral("Gateway:")},
+        {serverAddressesKey, QStringLiteral("DNS:")},
+        {searchDomainsKey, QStringLiteral("Search Domains:")},
+    };
+    return labels.value(settingKey);
 }
 
 QString linkOf(const AdapterInfo& adapter)
@@ -87,22 +97,6 @@ QString linkOf(const AdapterInfo& adapter)
     if (adapter.fullDuplex)
         words << (*adapter.fullDuplex ? QStringLiteral("full-duplex") : QStringLiteral("half-duplex"));
     return words.join(u' ');
-}
-
-Json textAsJson(const std::optional<Text>& text)
-{
-    return text ? Json(text->string().toStdString()) : Json();
-}
-
-template <typename Value>
-Json valueAsJson(const std::optional<Value>& value)
-{
-    return value ? Json(*value) : Json();
-}
-
-QByteArray printed(const Json& json)
-{
-    return QByteArray::fromStdString(json.dump(2, ' ', false, Json::error_handler_t::replace)) + '\n';
 }
 
 } // namespace
@@ -139,28 +133,60 @@ QString adaptersAsTable(const QList<AdapterInfo>& adapters, std::chrono::nanosec
     return table(rows, colour);
 }
 
-QString configurationAsTable(const AdapterInfo& adapter, const NetworkAdapterInfo& configuration,
-                             std::chrono::nanoseconds now, bool colour)
+QList<std::pair<QString, QString>> fieldsOf(const NetworkAdapterInfo& configuration)
 {
     const bool automatic = configuration.dnsMode == DNSMode::automatic;
     const QStringList domains(configuration.searchDomains.begin(), configuration.searchDomains.end());
-    const QList<std::pair<QString, Cell>> fields{
-        {QStringLiteral("State:"), stateOf(adapter, now)},
-        {QStringLiteral("Mode:"), {rawValue(configuration.ipv4Mode)}},
-        {QStringLiteral("IP Address:"), {orDash(configuration.ipAddress)}},
-        {QStringLiteral("Subnet Mask:"), {orDash(configuration.subnetMask)}},
-        {QStringLiteral("Gateway:"), {orDash(configuration.router)}},
-        {QStringLiteral("DNS:"), {rawValue(configuration.dnsMode)}},
-        {QStringLiteral("Preferred DNS:"), {orDash(configuration.primaryDNS)}},
-        {QStringLiteral("Alternate DNS:"), {orDash(configuration.alternateDNS)}},
-        {QStringLiteral("Search Domains:"), {orDash(automatic ? QString() : domains.join(u' '))}},
-        {QStringLiteral("DHCP Server:"), {orDash(configuration.dhcpServer)}},
-        {QStringLiteral("Computer Name:"), {orDash(configuration.computerName)}},
+    return {
+        {QStringLiteral("Mode"), rawValue(configuration.ipv4Mode)},
+        {QStringLiteral("IP Address"), orDash(configuration.ipAddress)},
+        {QStringLiteral("Subnet Mask"), orDash(configuration.subnetMask)},
+        {QStringLiteral("Gateway"), orDash(configuration.router)},
+        {QStringLiteral("DNS"), rawValue(configuration.dnsMode)},
+        {QStringLiteral("Preferred DNS"), orDash(configuration.primaryDNS)},
+        {QStringLiteral("Alternate DNS"), orDash(configuration.alternateDNS)},
+        {QStringLiteral("Search Domains"), orDash(automatic ? QString() : domains.join(u' '))},
+        {QStringLiteral("DHCP Server"), orDash(configuration.dhcpServer)},
+        {QStringLiteral("Computer Name"), orDash(configuration.computerName)},
+    };
+}
+
+QString stateText(const AdapterInfo& adapter)
+{
+    if (adapter.isActive)
+        return QStringLiteral("connected");
+    return adapter.isEnabled ? QStringLiteral("disconnected") : QStringLiteral("disabled");
+}
+
+QString configurationAsTable(const AdapterInfo& adapter, const NetworkAdapterInfo& configuration,
+                             std::chrono::nanoseconds now, bool colour)
+{
+    QList<Row> rows{{{QStringLiteral("State:"), Tint::faint}, stateOf(adapter, now)}};
+    for (const auto& [label, value] : fieldsOf(configuration))
+        rows.append({{label + u':', Tint::faint}, {value}});
+    return tinted(printable(adapter.serviceName), Tint::strong, colour) + u'\n' + table(rows, colour);
+}
+
+QString planAsText(const ChangePlan& plan, const QString& serviceName)
+{
+    if (!plan.isNeeded())
+        return QStringLiteral("Nothing to do: '%1' has these settings already.\n")
+            .arg(printable(serviceName));
+    if (!plan.isChange)
+        return QStringLiteral("The settings are saved already, and would be brought into force.\n");
+    if (plan.changes.isEmpty())
+        return QStringLiteral("Only settings that are not shown here would change.\n");
+    const auto valueOf = [](const SettingChange& change, const QStringList& value) {
+        if (!value.isEmpty())
+            return value.join(u' ');
+        return change.key == serverAddressesKey ? rawValue(DNSMode::automatic) : QStringLiteral("—");
     };
     QList<Row> rows;
-    for (const auto& [label, value] : fields)
-        rows.append({{label, Tint::faint}, value});
-    return tinted(printable(adapter.serviceName), Tint::strong, colour) + u'\n' + table(rows, colour);
+    for (const SettingChange& change : plan.changes)
+        rows.append(
+            {{labelOf(change.key)},
+             {valueOf(change, change.present) + QStringLiteral(" → ") + valueOf(change, change.wanted)}});
+    return table(rows, false);
 }
 
 QString presetsAsTable(const QList<NetworkPreset>& presets, bool colour)
@@ -183,45 +209,6 @@ QString presetsAsTable(const QList<NetworkPreset>& presets, bool colour)
                      {preset.dnsMode == DNSMode::manual ? servers.join(u' ') : rawValue(preset.dnsMode)}});
     }
     return table(rows, colour);
-}
-
-QByteArray adaptersAsJson(const QList<AdapterInfo>& adapters, std::chrono::nanoseconds now)
-{
-    Json array = Json::array();
-    for (const AdapterInfo& adapter : adapters) {
-        array.push_back({
-            {"serviceName", textAsJson(adapter.serviceName)},
-            {"hardwareName", textAsJson(adapter.hardwareName)},
-            {"macAddress", textAsJson(adapter.macAddress)},
-            {"bsdName", textAsJson(adapter.bsdName)},
-            {"isActive", adapter.isActive},
-            {"isEnabled", adapter.isEnabled},
-            {"linkSpeedMbps", valueAsJson(adapter.linkSpeedMbps)},
-            {"fullDuplex", valueAsJson(adapter.fullDuplex)},
-        });
-        if (const auto seconds = adapter.secondsToConfirm(now))
-            array.back()["secondsToConfirm"] = *seconds;
-    }
-    return printed(array);
-}
-
-QByteArray configurationAsJson(const NetworkAdapterInfo& configuration)
-{
-    Json domains = Json::array();
-    for (const Text& domain : configuration.searchDomains)
-        domains.push_back(textAsJson(domain));
-    return printed({
-        {"ipv4Mode", textAsJson(rawValue(configuration.ipv4Mode))},
-        {"ipAddress", textAsJson(configuration.ipAddress)},
-        {"subnetMask", textAsJson(configuration.subnetMask)},
-        {"router", textAsJson(configuration.router)},
-        {"dnsMode", textAsJson(rawValue(configuration.dnsMode))},
-        {"primaryDNS", textAsJson(configuration.primaryDNS)},
-        {"alternateDNS", textAsJson(configuration.alternateDNS)},
-        {"searchDomains", domains},
-        {"dhcpServer", textAsJson(configuration.dhcpServer)},
-        {"computerName", textAsJson(configuration.computerName)},
-    });
 }
 
 } // namespace ardeo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backend/AdapterInfo.h"
+#include "backend/ChangePlan.h"
 #include "backend/NetworkAdapterInfo.h"
 #include "backend/NetworkPreset.h"
 
@@ -12,7 +13,7 @@ namespace ardeo
 /// The text without characters that would steer the terminal, line breaks among them.
 QString printable(QString text);
 
-// What the commands print, each ending in a line break. Colour is for terminals.
+// What the commands print for people, each ending in a line break. Colour is for terminals.
 
 // Now is the continuous time, which says how long a change on trial can still be confirmed.
 
@@ -21,10 +22,12 @@ QString configurationAsTable(const AdapterInfo& adapter, const NetworkAdapterInf
                              std::chrono::nanoseconds now, bool colour);
 QString presetsAsTable(const QList<NetworkPreset>& presets, bool colour);
 
-/// An array of objects with the field names of AdapterInfo, but for what only the program needs to know; one
-/// with a change on trial says how many seconds are left to confirm it.
-QByteArray adaptersAsJson(const QList<AdapterInfo>& adapters, std::chrono::nanoseconds now);
-/// An object with the field names of NetworkAdapterInfo.
-QByteArray configurationAsJson(const NetworkAdapterInfo& configuration);
+/// The labels and values of a configuration, in the order in which they are shown.
+QList<std::pair<QString, QString>> fieldsOf(const NetworkAdapterInfo& configuration);
+/// Connected, disconnected or disabled.
+QString stateText(const AdapterInfo& adapter);
+
+/// What a change of the service would change, a line each.
+QString planAsText(const ChangePlan& plan, const QString& serviceName);
 
 } // namespace ardeo

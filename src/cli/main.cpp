@@ -28,6 +28,12 @@ void printError(const QString& line)
     std::fprintf(stderr, "%s\n", line.toUtf8().constData());
 }
 
+bool print(const QByteArray& output)
+{
+    const auto size = static_cast<size_t>(output.size());
+    return std::fwrite(output.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+}
+
 /// Leaves the platform that the command ran on in platform.
 Outcome outcomeOf(const std::variant<Arguments, UsageError>& parsed, bool colour,
                   std::optional<Platform>& platform)
@@ -43,7 +49,7 @@ Outcome outcomeOf(const std::variant<Arguments, UsageError>& parsed, bool colour
             QStringLiteral("ardeoctl %1 on %2\n").arg(QStringLiteral(ARDEO_VERSION), platform->description);
         return {.status = 0, .output = text.toUtf8(), .error = {}, .changed = false, .model = {}};
     }
-    return runCommand(arguments, *platform, colour, printError);
+    return runCommand(arguments, *platform, colour, {printError, print});
 }
 
 } // namespace
@@ -65,9 +71,7 @@ int main(int argc, char** argv)
     const Outcome outcome = outcomeOf(parsed, colour, platform);
     if (!outcome.error.isEmpty())
         printError(outcome.error);
-    const auto size = static_cast<size_t>(outcome.output.size());
-    const bool written =
-        std::fwrite(outcome.output.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    const bool written = print(outcome.output) && std::ferror(stdout) == 0;
     if (!written)
         printError(QStringLiteral("Cannot write the output: %1.").arg(qt_error_string(errno)));
     if (guard && outcome.changed)

@@ -97,6 +97,9 @@ public:
     /// Writes the form, or of it what is named, to the selected service, reads it again after a second, and
     /// once more three seconds later. On trial, too, where the user works on this computer over that service.
     QCoro::Task<> applyConfiguration(std::optional<Settings> named = {}, Trial trial = {});
+    /// What that would change; nothing is locked or written. None when it could not be done, with the reason
+    /// in applyError.
+    QCoro::Task<std::optional<ChangePlan>> planConfiguration(std::optional<Settings> named = {});
     /// Puts the selected service on DHCP, which takes a new lease; its DNS configuration and the form's edits
     /// have no part in it. Reads it again as after an apply.
     QCoro::Task<> renewDHCPLease(Trial trial = {});
@@ -132,6 +135,7 @@ private:
 
     template <typename Source>
     void fillForm(const Source& settings, const Text& domains);
+    NetworkAdapterInfo formContent() const;
     QCoro::Task<> write(NetworkAdapterInfo configuration, std::optional<Settings> named, Trial trial);
     static std::optional<AdapterInfo> serviceIn(const QList<AdapterInfo>& listed, const Text& name);
     void takeListed(const QList<AdapterInfo>& listed);

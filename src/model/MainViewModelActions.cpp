@@ -48,17 +48,36 @@ QCoro::Task<> MainViewModel::applyConfiguration(std::optional<Settings> named, T
     const std::optional<QString> ownWay = m_platform.remoteInterface();
     if (!trial && ownWay && adapter && adapter->bsdName == Text(*ownWay))
         trial = remoteTrial;
-    return write({.ipv4Mode = ipv4Mode.value(),
-                  .ipAddress = ipAddress.value(),
-                  .subnetMask = subnetMask.value(),
-                  .router = router.value(),
-                  .dnsMode = dnsMode.value(),
-                  .primaryDNS = primaryDNS.value(),
-                  .alternateDNS = alternateDNS.value(),
-                  .searchDomains = splitDomains(searchDomains.value()),
-                  .dhcpServer = {},
-                  .computerName = {}},
-                 named, trial);
+    return write(formContent(), named, trial);
+}
+
+QCoro::Task<std::optional<ChangePlan>> MainViewModel::planConfiguration(std::optional<Settings> named)
+{
+    const auto self = shared_from_this();
+    const std::optional<AdapterInfo> adapter = selectedAdapter.value();
+    if (!adapter)
+        co_return std::nullopt;
+    clearFeedback();
+    try {
+        co_return co_await configService.planConfiguration(adapter->serviceName, formContent(), named);
+    } catch (const ConfigError& error) {
+        tellError(error.errorDescription(), error.fault());
+        co_return std::nullopt;
+    }
+}
+
+NetworkAdapterInfo MainViewModel::formContent() const
+{
+    return {.ipv4Mode = ipv4Mode.value(),
+            .ipAddress = ipAddress.value(),
+            .subnetMask = subnetMask.value(),
+            .router = router.value(),
+            .dnsMode = dnsMode.value(),
+            .primaryDNS = primaryDNS.value(),
+            .alternateDNS = alternateDNS.value(),
+            .searchDomains = splitDomains(searchDomains.value()),
+            .dhcpServer = {},
+            .computerName = {}};
 }
 
 QCoro::Task<> MainViewModel::renewDHCPLease(Trial trial)

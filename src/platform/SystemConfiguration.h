@@ -79,6 +79,9 @@ public:
     virtual bool isPersonal() const { return false; }
     /// Takes effect with commit and apply, like a changed protocol configuration.
     virtual bool setEnabled(bool enabled) = 0;
+    /// Whether what was set for it would change what is saved, also where that cannot be read here. True for
+    /// what the system will refuse.
+    virtual bool hasChanges() const = 0;
     /// Until when a change of it that is on trial can be confirmed, in continuous time; none where none is.
     virtual std::optional<std::chrono::milliseconds> confirmBy() const { return std::nullopt; }
     /// Null for a service without an interface.

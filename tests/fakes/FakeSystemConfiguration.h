@@ -119,6 +119,7 @@ private:
         std::optional<QString> serviceID() const override { return service.id; }
         bool isEnabled() const override { return service.enabled; }
         bool isPersonal() const override { return service.personal; }
+        bool hasChanges() const override { return true; }
         std::optional<std::chrono::milliseconds> confirmBy() const override { return service.confirmBy; }
         bool setEnabled(bool enabled) override
         {

@@ -44,6 +44,16 @@ public:
         m_record->changes.enabled = enabled;
         return true;
     }
+    bool hasChanges() const override
+    {
+        const ServiceRecord unchanged{.seen = m_record->seen};
+        const SimulatedService saved(std::make_shared<ServiceRecord>(unchanged));
+        const auto isOther = [&](const QString& type) {
+            const auto protocol = this->protocol(type);
+            return protocol && protocol->configuration() != saved.protocol(type)->configuration();
+        };
+        return isEnabled() != saved.isEnabled() || isOther(ipv4Type) || isOther(dnsType);
+    }
     std::optional<std::chrono::milliseconds> confirmBy() const override
     {
         return confirmationDeadline(m_record->seen);

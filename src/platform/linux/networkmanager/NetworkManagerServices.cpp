@@ -94,6 +94,12 @@ public:
         m_profile->changes.enabled = enabled;
         return true;
     }
+    bool hasChanges() const override
+    {
+        const GRef<NMConnection> changed(nm_simple_connection_new_clone(connection()));
+        return !change(changed.get(), m_profile->changes) ||
+               !nm_connection_compare(changed.get(), connection(), NM_SETTING_COMPARE_FLAG_EXACT);
+    }
     std::shared_ptr<NetworkInterface> interface() const override
     {
         NMDevice* device = deviceOf(m_session->client(), m_profile->connection.get());
