@@ -40,55 +40,41 @@ inline QString waitingDescription(const LockHolder& holder)
 class ConfigError final : public DescribedError
 {
 public:
-    enum class Case {
-        lockFailed,
-        serviceNotFound,
-        protocolUnavailable,
-        commitFailed,
-        applyFailed,
-        preferencesUnavailable
-    };
-
     static ConfigError lockFailed(qint32 code)
     {
-        return {Case::lockFailed, QStringLiteral("Cannot acquire preferences lock (SC %1).").arg(code)};
+        return ConfigError(QStringLiteral("Cannot acquire preferences lock (SC %1).").arg(code));
     }
     static ConfigError serviceNotFound(const QString& name)
     {
-        return {Case::serviceNotFound, QStringLiteral("Service '") + name + QStringLiteral("' not found.")};
+        return ConfigError(QStringLiteral("Service '") + name + QStringLiteral("' not found."));
     }
     static ConfigError protocolUnavailable(const QString& name)
     {
-        return {Case::protocolUnavailable,
-                QStringLiteral("Protocol ") + name + QStringLiteral(" unavailable.")};
+        return ConfigError(QStringLiteral("Protocol ") + name + QStringLiteral(" unavailable."));
     }
     static ConfigError commitFailed(qint32 code, std::optional<SettingFault> fault = {})
     {
-        ConfigError error{Case::commitFailed, QStringLiteral("Cannot save changes (SC %1).").arg(code)};
+        ConfigError error(QStringLiteral("Cannot save changes (SC %1).").arg(code));
         error.m_fault = std::move(fault);
         return error;
     }
     static ConfigError applyFailed(qint32 code, std::optional<SettingFault> fault = {})
     {
-        ConfigError error{Case::applyFailed, QStringLiteral("Cannot apply changes (SC %1).").arg(code)};
+        ConfigError error(QStringLiteral("Cannot apply changes (SC %1).").arg(code));
         error.m_fault = std::move(fault);
         return error;
     }
     static ConfigError preferencesUnavailable()
     {
-        return {Case::preferencesUnavailable, QStringLiteral("Cannot open system network preferences.")};
+        return ConfigError(QStringLiteral("Cannot open system network preferences."));
     }
 
-    Case errorCase() const { return m_case; }
     /// Which value was refused and why, or what else the system said.
     const std::optional<SettingFault>& fault() const { return m_fault; }
 
 private:
-    ConfigError(Case errorCase, const QString& description) : DescribedError(description), m_case(errorCase)
-    {
-    }
+    explicit ConfigError(const QString& description) : DescribedError(description) {}
 
-    Case m_case;
     std::optional<SettingFault> m_fault;
 };
 
@@ -96,23 +82,17 @@ private:
 class AuthError final : public DescribedError
 {
 public:
-    enum class Case { createFailed, denied };
-
     static AuthError createFailed()
     {
-        return {Case::createFailed, QStringLiteral("Cannot create authorization reference.")};
+        return AuthError(QStringLiteral("Cannot create authorization reference."));
     }
     static AuthError denied()
     {
-        return {Case::denied, QStringLiteral("Admin authorization was denied or cancelled.")};
+        return AuthError(QStringLiteral("Admin authorization was denied or cancelled."));
     }
 
-    Case errorCase() const { return m_case; }
-
 private:
-    AuthError(Case errorCase, const QString& description) : DescribedError(description), m_case(errorCase) {}
-
-    Case m_case;
+    explicit AuthError(const QString& description) : DescribedError(description) {}
 };
 
 } // namespace ardeo
