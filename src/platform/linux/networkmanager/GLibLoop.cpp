@@ -12,14 +12,14 @@ GLibLoop::~GLibLoop()
     g_main_context_unref(m_context);
 }
 
-GRef<GAsyncResult> GLibLoop::call(QDeadlineTimer deadline, const Start& start)
+GRef<GAsyncResult> GLibLoop::call(QDeadlineTimer deadline, const Begin& begin)
 {
     const GRef<GCancellable> cancellable(g_cancellable_new());
     GAsyncResult* result = nullptr;
     const GAsyncReadyCallback keepResult = [](GObject*, GAsyncResult* ended, gpointer where) {
         *static_cast<GAsyncResult**>(where) = static_cast<GAsyncResult*>(g_object_ref(ended));
     };
-    this->start([&] { start(cancellable.get(), keepResult, &result); });
+    start([&] { begin(cancellable.get(), keepResult, &result); });
     const auto ended = [&] { return result != nullptr; };
     if (!runUntil(deadline, ended)) {
         g_cancellable_cancel(cancellable.get());

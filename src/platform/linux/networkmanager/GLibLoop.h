@@ -57,8 +57,8 @@ public:
 
     /// Starts an asynchronous call with what it has to be given, and returns its result once it has ended. At
     /// the deadline the call is cancelled; its result then says so.
-    using Start = std::function<void(GCancellable*, GAsyncReadyCallback, gpointer)>;
-    GRef<GAsyncResult> call(QDeadlineTimer deadline, const Start& start);
+    using Begin = std::function<void(GCancellable*, GAsyncReadyCallback, gpointer)>;
+    GRef<GAsyncResult> call(QDeadlineTimer deadline, const Begin& begin);
 
     /// Starts what will end on this loop, and returns at once.
     void start(const std::function<void()>& begin);
