@@ -25,7 +25,8 @@ MenuBarExtra::MenuBarExtra(QMenu& menu, AppDelegate& appDelegate, Clock& clock, 
     , m_toolTip(toolTip)
 {
     // The toolkit settles once and for all, when the first icon is made, for a status notifier host or for
-    // X11's tray. So nothing is made before one of them is seen.
+    // X11's tray. So nothing is made before one of them is seen, or has had
+    // the time to come.
     connect(&m_area, &StatusArea::hostKnown, this, [this](bool present) {
         if (present || hasX11Tray())
             showIcon();

@@ -18,8 +18,9 @@ namespace ardeo
 
 /// The only part that touches the system's network configuration. Its operations run one after the other on a
 /// thread of its own, so that their blocking calls never hold up the caller; the futures finish there. Each
-/// operation opens what it needs of the system, and has released it before the next one begins: nothing is
-/// cached. When no other one follows at once, the system may rest, or tell of changes.
+/// operation opens what it needs of the system and keeps nothing of it; what the system keeps ready for the
+/// next one, it brings up to date first. When no other one follows at once, the system may rest, or tell of
+/// changes.
 class NetworkConfigService final : public QObject
 {
     Q_OBJECT

@@ -16,7 +16,8 @@ public:
     virtual std::chrono::nanoseconds continuousTime() const = 0;
     /// The date, as seconds since 1 January 2001, 00:00:00 UTC.
     virtual double referenceTime() const = 0;
-    /// Finishes when that much continuous time has passed; cancelling it ends the wait early.
+    /// Finishes on the main thread when that much continuous time has passed. Has finished at once,
+    /// cancelled, where the system has no timer to give. Cancelling it does not end the wait.
     virtual QFuture<void> sleep(std::chrono::milliseconds duration) = 0;
 };
 

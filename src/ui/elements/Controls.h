@@ -77,7 +77,7 @@ private:
     QString m_symbol;
 };
 
-/// A symbol on its own, in the colour of an emphasis.
+/// A symbol on its own, in one of the scheme's colours.
 class SymbolView final : public QWidget
 {
     Q_OBJECT

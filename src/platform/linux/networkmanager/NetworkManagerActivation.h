@@ -6,8 +6,8 @@
 namespace ardeo
 {
 
-/// Takes a profile up and down on the daemon, within the operation's time. Each returns when what was asked
-/// for is in force, or with the reason why it is not.
+/// Takes a profile up and down on the daemon, within the operation's time. Each function says what it waits
+/// for, and returns success or the reason why that has not come.
 class NetworkManagerActivation
 {
 public:
