@@ -1,6 +1,7 @@
 // Everything that is measured within one process. Needs no display with QT_QPA_PLATFORM=offscreen. Takes
 // Google Benchmark's arguments.
 
+#include "ui/elements/ArdeoStyle.h"
 #include "ui/elements/Style.h"
 
 #include <QApplication>

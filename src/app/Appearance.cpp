@@ -1,5 +1,6 @@
 #include "app/Appearance.h"
 
+#include "ui/elements/ArdeoStyle.h"
 #include "ui/elements/Style.h"
 
 #include <QApplication>

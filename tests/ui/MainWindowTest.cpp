@@ -4,12 +4,14 @@
 #include "fakes/Fakes.h"
 #include "platform/AdvisoryLock.h"
 #include "platform/simulated/SimulatedPlatform.h"
+#include "ui/background/Card.h"
 #include "ui/background/NeuralNetworkBackground.h"
-#include "ui/elements/Card.h"
+#include "ui/elements/ArdeoStyle.h"
 #include "ui/elements/CardScrollArea.h"
 #include "ui/elements/Controls.h"
 #include "ui/elements/IPAddressField.h"
 #include "ui/elements/InfoRow.h"
+#include "ui/elements/TextLabel.h"
 #include "ui/panels/AdapterSection.h"
 #include "ui/panels/PresetList.h"
 #include "ui/sheets/ConfirmationDialog.h"
@@ -19,11 +21,13 @@
 #include "ui/windows/HelpView.h"
 #include "ui/windows/ShortcutsView.h"
 
+#include <QAbstractEventDispatcher>
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QGraphicsOpacityEffect>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>

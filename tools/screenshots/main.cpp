@@ -6,6 +6,7 @@
 #include "app/MenuBarMenuView.h"
 #include "platform/linux/desktop/DesktopWorkspace.h"
 #include "platform/simulated/SimulatedPlatform.h"
+#include "ui/elements/ArdeoStyle.h"
 #include "ui/elements/IPAddressField.h"
 #include "ui/elements/PushButton.h"
 #include "ui/elements/Symbol.h"

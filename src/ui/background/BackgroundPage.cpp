@@ -3,9 +3,9 @@
 #include "ui/background/MaterialPanel.h"
 #include "ui/elements/CardScrollArea.h"
 #include "ui/elements/PushButton.h"
-#include "ui/elements/Style.h"
+#include "ui/elements/Stack.h"
 
-#include <QVBoxLayout>
+#include <QStyle>
 
 namespace ardeo
 {
@@ -31,15 +31,12 @@ void BackgroundPage::setContent(QWidget* content)
 {
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     auto* padded = new QWidget;
-    auto* stack = new QVBoxLayout(padded);
-    stack->setContentsMargins(m_padding, m_padding, m_padding - bar, m_padding);
+    auto* stack = columnIn(padded, 0, {m_padding, m_padding, m_padding - bar, m_padding});
     stack->addWidget(content);
     stack->addStretch();
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
     auto* scroll = new CardScrollArea(padded);
     scroll->setFocusPolicy(Qt::StrongFocus); // nothing else on the page takes the keys that scroll
-    layout->addWidget(scroll);
+    columnIn(this, 0)->addWidget(scroll);
     for (auto* panel : findChildren<MaterialPanel*>())
         panel->setBackground(m_background);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/MainViewModel.h"
-#include "ui/elements/Card.h"
+#include "ui/background/Card.h"
 
 namespace ardeo
 {

@@ -2,16 +2,12 @@
 
 #include "ui/elements/Style.h"
 #include "ui/elements/Symbol.h"
-#include "ui/elements/TextLabel.h"
+#include "ui/panels/PresetRowDelegate.h"
 
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMenu>
-#include <QPainter>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
-#include <QToolTip>
 #include <QVariantAnimation>
 
 #include <algorithm>
@@ -23,9 +19,6 @@ namespace ardeo
 namespace
 {
 
-constexpr int rowPadding = 10;
-constexpr int lineGap = 2;
-constexpr int highlightInset = 3;
 constexpr int hoverMilliseconds = 120;
 
 /// What two texts have in common when case does not count.
@@ -35,13 +28,6 @@ QString folded(const QString& text)
 }
 
 } // namespace
-
-QString presetSummary(const NetworkPreset& preset)
-{
-    const QString mode =
-        preset.ipv4Mode == IPv4Mode::manual ? QStringLiteral("Manual") : QStringLiteral("DHCP");
-    return mode + QStringLiteral(" · ") + preset.serviceName;
-}
 
 /// The rows as positions in the store's list, which stays the only place that holds the profiles.
 class PresetList::Rows final : public QAbstractListModel
@@ -105,100 +91,6 @@ private:
     QList<qsizetype> m_positions;
 };
 
-namespace
-{
-
-class RowDelegate final : public QStyledItemDelegate
-{
-public:
-    using ReadPreset = std::function<const NetworkPreset&(int)>;
-    RowDelegate(PresetList* list, ReadPreset preset)
-        : QStyledItemDelegate(list)
-        , m_list(list)
-        , m_preset(std::move(preset))
-    {
-    }
-
-    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
-    {
-        const int lines = QFontMetrics(nameFont()).height() + lineGap + QFontMetrics(summaryFont()).height();
-        return {0, rowPadding + lines + rowPadding + 1}; // and the divider
-    }
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        const NetworkPreset& preset = m_preset(index.row());
-        const Colours& colours = look::colours(m_list);
-        const double highlight = m_list->highlight(preset.id);
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        const QRect row = option.rect.adjusted(0, 0, 0, -1);
-        const QRectF ground = QRectF(row).adjusted(highlightInset, 0, -highlightInset, 0);
-        if (highlight > 0)
-            painter->fillPath(look::continuousRect(ground, 6),
-                              look::withOpacity(colours.teal, 0.1 * highlight));
-        if (m_list->hasFocus() && m_list->currentIndex() == index)
-            look::strokeInside(*painter, ground, 6, colours.teal, 2);
-
-        QRect content = row.adjusted(rowPadding, rowPadding, -rowPadding, -rowPadding);
-        if (highlight > 0) {
-            const QString load = QStringLiteral("Load");
-            painter->setFont(loadFont());
-            const int width = loadWidth();
-            painter->setPen(look::withOpacity(colours.teal, highlight));
-            painter->drawText(content.translated(static_cast<int>((1 - highlight) * width), 0),
-                              Qt::AlignRight | Qt::AlignVCenter, load);
-            content.setRight(content.right() - width - 4);
-        }
-        drawLine(*painter, content, nameFont(), colours.primary, preset.name);
-        content.setTop(content.top() + QFontMetrics(nameFont()).height() + lineGap);
-        drawLine(*painter, content, summaryFont(), colours.secondary, presetSummary(preset));
-        if (index.row() + 1 < index.model()->rowCount()) {
-            const QRect line(option.rect.left() + 10, option.rect.bottom(), option.rect.width() - 10, 1);
-            painter->fillRect(line, look::withOpacity(colours.separator, colours.separator.alphaF() * 0.4));
-        }
-        painter->restore();
-    }
-
-    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-                   const QModelIndex& index) override
-    {
-        if (event->type() != QEvent::ToolTip || !index.isValid())
-            return QStyledItemDelegate::helpEvent(event, view, option, index);
-        const NetworkPreset& preset = m_preset(index.row());
-        const QString summary = presetSummary(preset);
-        // The row below the pointer also says "Load".
-        const int room = option.rect.width() - 2 * rowPadding - loadWidth() - 4;
-        const bool isCut =
-            QFontMetrics(nameFont()).horizontalAdvance(preset.name.string().simplified()) > room ||
-            QFontMetrics(summaryFont()).horizontalAdvance(summary.simplified()) > room;
-        QToolTip::showText(event->globalPos(),
-                           isCut ? toolTipText(preset.name + QStringLiteral("\n") + summary) : QString(),
-                           view);
-        return true;
-    }
-
-private:
-    static int loadWidth() { return QFontMetrics(loadFont()).horizontalAdvance(QStringLiteral("Load")); }
-    static QFont loadFont() { return look::font(TextStyle::caption, QFont::Medium); }
-    static QFont nameFont() { return look::font(TextStyle::body, QFont::Medium); }
-    static QFont summaryFont() { return look::font(TextStyle::caption); }
-    static void drawLine(QPainter& painter, const QRect& rect, const QFont& font, const QColor& colour,
-                         const QString& text)
-    {
-        painter.setFont(font);
-        painter.setPen(colour);
-        const QString line =
-            painter.fontMetrics().elidedText(text.simplified(), Qt::ElideRight, rect.width());
-        painter.drawText(rect, static_cast<int>(Qt::AlignTop | Qt::AlignLeft | Qt::TextSingleLine), line);
-    }
-
-    PresetList* m_list;
-    ReadPreset m_preset;
-};
-
-} // namespace
-
 PresetList::PresetList(NetworkPresetStore& store, Actions actions, QWidget* parent)
     : QListView(parent)
     , m_store(store)
@@ -206,8 +98,8 @@ PresetList::PresetList(NetworkPresetStore& store, Actions actions, QWidget* pare
     , m_rows(new Rows(store, this))
 {
     setModel(m_rows);
-    setItemDelegate(
-        new RowDelegate(this, [this](int row) -> const NetworkPreset& { return m_rows->preset(row); }));
+    setItemDelegate(new PresetRowDelegate(
+        this, [this](int row) -> const NetworkPreset& { return m_rows->preset(row); }, this));
     setAccessibleName(QStringLiteral("Profiles"));
     setFrameShape(NoFrame);
     setUniformItemSizes(true);

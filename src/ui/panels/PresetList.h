@@ -78,7 +78,4 @@ private:
     QHash<QUuid, double> m_highlights;
 };
 
-/// The mode and the service of a profile, as its row says them.
-QString presetSummary(const NetworkPreset& preset);
-
 } // namespace ardeo

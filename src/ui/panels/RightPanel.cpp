@@ -15,6 +15,7 @@
 #include <QCoreApplication>
 #include <QScrollBar>
 #include <QStackedLayout>
+#include <QStyle>
 #include <QWheelEvent>
 
 #include <array>

@@ -1,4 +1,4 @@
-#include "ui/elements/Card.h"
+#include "ui/background/Card.h"
 
 #include "ui/elements/Controls.h"
 #include "ui/elements/Stack.h"
