@@ -28,8 +28,6 @@ public:
     /// A frame so strongly blurred that it changes slowly: what shows through a card. It is the same for all
     /// that is painted between two updates of what is covered.
     const QImage& backdrop();
-    /// Whether frames are being drawn.
-    bool isTicking() const { return m_timer != 0; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -27,7 +27,6 @@ public:
     QString partPlaceholder(int i) const;
     /// Marks the value as refused for that reason, or as fine.
     void setFault(const std::optional<QString>& reason);
-    const std::array<QString, 4>& currentParts() const { return parts; }
     QLineEdit* octet(int i) const { return m_octets.at(static_cast<size_t>(i)); }
 
 protected:

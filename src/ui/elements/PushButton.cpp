@@ -18,6 +18,7 @@ namespace
 constexpr int symbolGap = 5;
 constexpr int symbolSize = 16;
 constexpr int textPadding = 10;
+constexpr double spinnerScale = 0.75;
 
 } // namespace
 
@@ -84,23 +85,24 @@ void PushButton::setSymbol(const QString& symbol)
     update();
 }
 
-void PushButton::setSpinning(bool spinning, double scale)
+void PushButton::setSpinning(bool spinning)
 {
-    delete m_spinner;
-    m_spinner = spinning ? new Spinner(scale, this) : nullptr;
-    if (m_spinner) {
+    m_isSpinning = spinning;
+    if (spinning && !m_spinner) {
+        m_spinner = new Spinner(spinnerScale, this);
         m_spinner->setColour(m_kind == Kind::prominent ? Qt::white : QColor());
-        m_spinner->show();
     }
+    if (m_spinner)
+        m_spinner->setVisible(spinning);
     updateGeometry();
-    resizeEvent(nullptr);
+    placeSpinner();
     update();
 }
 
 QSize PushButton::sizeHint() const
 {
     const bool large = m_size == Size::large;
-    const int glyph = m_symbol.isEmpty() && !m_spinner ? 0 : look::scaled(symbolSize);
+    const int glyph = m_symbol.isEmpty() && !m_isSpinning ? 0 : look::scaled(symbolSize);
     const int gap = glyph > 0 && !text().isEmpty() ? look::scaled(symbolGap) : 0;
     const int padding = m_kind == Kind::plain ? 0 : text().isEmpty() ? 7 : large ? 14 : textPadding;
     const int textWidth =
@@ -126,6 +128,11 @@ QRectF PushButton::symbolRect() const
 
 void PushButton::resizeEvent(QResizeEvent*)
 {
+    placeSpinner();
+}
+
+void PushButton::placeSpinner()
+{
     if (m_spinner)
         m_spinner->move((symbolRect().center() - QRectF(m_spinner->rect()).center()).toPoint());
 }
@@ -138,7 +145,7 @@ void PushButton::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
 
     // What spins is at work, not out of use, whatever the pointer can do with it.
-    const bool faint = !isEnabled() && !m_spinner;
+    const bool faint = !isEnabled() && !m_isSpinning;
     const QRectF area = look::deviceAligned(this, rect());
     const double radius = m_kind == Kind::plain ? 4 : 6;
     QColor ink = m_tint ? colours.*m_tint : colours.primary;
@@ -168,9 +175,9 @@ void PushButton::paintEvent(QPaintEvent*)
         look::strokeInside(painter, area.adjusted(inset, inset, -inset, -inset), radius - inset, ring, 2);
     }
 
-    const bool hasGlyph = m_spinner || !m_symbol.isEmpty();
+    const bool hasGlyph = m_isSpinning || !m_symbol.isEmpty();
     const QRectF glyph = symbolRect();
-    if (!m_spinner && !m_symbol.isEmpty())
+    if (!m_isSpinning && !m_symbol.isEmpty())
         drawSymbol(painter, glyph, m_symbol, ink);
     painter.setPen(ink);
     painter.setFont(font());

@@ -30,8 +30,8 @@ public:
     /// Keeps room for that text, so that nothing moves when it takes the place of the present one.
     void setWidestText(const QString& text);
     void setSymbol(const QString& symbol);
-    /// Shows a turning spinner, scaled by that factor, in the symbol's place.
-    void setSpinning(bool spinning, double scale);
+    /// Shows or hides a turning spinner in the symbol's place.
+    void setSpinning(bool spinning);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -46,13 +46,16 @@ private:
     /// Whether keys that are pressed now come here, or will once the button is in use again.
     bool holdsFocus() const;
     QRectF symbolRect() const;
+    void placeSpinner();
 
     QString m_symbol;
     QString m_widestText;
     Kind m_kind;
     Tint m_tint = nullptr;
     Size m_size = Size::regular;
+    /// Made when it is needed first.
     Spinner* m_spinner = nullptr;
+    bool m_isSpinning = false;
     bool m_keepsFocus = false;
 };
 

@@ -42,7 +42,7 @@ void UnfoldingSection::setShown(bool shown)
         m_content->setParent(this);
         putInTabOrder();
         m_content->adjustSize();
-        resizeEvent(nullptr);
+        placeContent();
     }
     const bool moves = isVisible() && look::duration(this, unfoldMilliseconds) > 0;
     if (moves) {
@@ -91,7 +91,7 @@ void UnfoldingSection::setProgress(double progress)
 {
     m_progress = progress;
     updateGeometry();
-    resizeEvent(nullptr);
+    placeContent();
     update();
 }
 
@@ -110,12 +110,17 @@ bool UnfoldingSection::event(QEvent* event)
 {
     if (event->type() == QEvent::LayoutRequest) { // the content has grown
         updateGeometry();
-        resizeEvent(nullptr);
+        placeContent();
     }
     return QWidget::event(event);
 }
 
 void UnfoldingSection::resizeEvent(QResizeEvent*)
+{
+    placeContent();
+}
+
+void UnfoldingSection::placeContent()
 {
     if (!m_content)
         return;

@@ -21,7 +21,6 @@ public:
     UnfoldingSection(int gap, int indent, MakeContent makeContent, QWidget* parent = nullptr);
 
     void setShown(bool shown);
-    QWidget* content() const { return m_content; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -38,6 +37,7 @@ protected:
 private:
     void putInTabOrder();
     void setProgress(double progress);
+    void placeContent();
 
     int m_gap;
     int m_indent;

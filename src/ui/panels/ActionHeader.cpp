@@ -41,7 +41,7 @@ ActionHeader::ActionHeader(MainViewModel& vm, QWidget* parent) : QWidget(parent)
         [apply, busy](bool applying) {
             apply->setText(applying ? busy : QStringLiteral("Apply"));
             apply->setSymbol(applying ? QString() : QStringLiteral("checkmark.circle.fill"));
-            apply->setSpinning(applying, 0.75);
+            apply->setSpinning(applying);
         });
     row->addWidget(apply);
 }

@@ -82,9 +82,10 @@ void LeftPanel::wheelEvent(QWheelEvent* event)
     QCoreApplication::sendEvent(m_list->verticalScrollBar(), event);
 }
 
-bool LeftPanel::hasPresets()
+const QList<NetworkPreset>& LeftPanel::presets()
 {
-    return m_presetChanges.value() >= 0 && !vm.presetStore.presets().isEmpty();
+    m_presetChanges.value(); // read, so that a binding that asks for the list follows it
+    return vm.presetStore.presets();
 }
 
 QWidget* LeftPanel::makeProfileSection()
@@ -188,7 +189,7 @@ QWidget* LeftPanel::makeListArea()
         int changes;
     };
     const auto read = [this]() -> Shown {
-        return {presetFilter.value(), hasPresets(), m_presetChanges.value()};
+        return {presetFilter.value(), !presets().isEmpty(), m_presetChanges.value()};
     };
     bind(area, read, [this, nothing, layers](const Shown& shown) {
         m_list->setFilter(shown.filter);
@@ -228,7 +229,7 @@ QWidget* LeftPanel::makeBottomBar()
     auto* exportButton = addFileButton("square.and.arrow.up", QStringLiteral("Export profiles to file"));
     connect(exportButton, &QPushButton::clicked, this, [this] { vm.exportPresets(); });
     bind(
-        exportButton, [this] { return hasPresets(); },
+        exportButton, [this] { return !presets().isEmpty(); },
         [exportButton](bool any) { exportButton->setUsable(any); });
     return bar;
 }

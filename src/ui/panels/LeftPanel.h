@@ -32,8 +32,8 @@ private:
     void followSheets();
     void showSheet(ProfileNameSheet* sheet);
 
-    /// Told whenever the list of profiles changes, so that what reads the list can be bound to it.
-    bool hasPresets();
+    /// The saved profiles, for what is bound to them.
+    const QList<NetworkPreset>& presets();
 
     MainViewModel& vm;
     Observed<Text> presetFilter;
@@ -42,6 +42,7 @@ private:
     Observed<std::optional<NetworkPreset>> presetToDelete;
     Observed<std::optional<NetworkPreset>> presetToRename;
     Observed<Text> renameText;
+    /// Counts the changes of the list of profiles, which is no property itself.
     QProperty<int> m_presetChanges{0};
     PresetList* m_list = nullptr;
     QPointer<ProfileNameSheet> m_sheet;

@@ -103,21 +103,24 @@ QWidget* addressRows(MainViewModel& vm, QWidget* choice, Condition condition, st
     return section;
 }
 
-/// Fades the widget in or out; a hidden widget takes no part in the layout.
+/// Fades the widget in or out, from where a fade that is under way has come to; a hidden widget takes no part
+/// in the layout.
 void fade(QWidget* widget, bool shown)
 {
+    const auto* underWay = qobject_cast<QGraphicsOpacityEffect*>(widget->graphicsEffect());
+    const double from = underWay ? underWay->opacity() : widget->isVisible() ? 1 : 0;
+    const double to = shown ? 1 : 0;
+    widget->setGraphicsEffect(nullptr); // which ends that
     const int duration = look::duration(widget, fadeMilliseconds);
-    if (!widget->window()->isVisible() || duration == 0) {
+    if (!widget->window()->isVisible() || duration == 0 || from == to) {
         widget->setVisible(shown);
         return;
     }
-    if (shown == widget->isVisible())
-        return;
     auto* effect = new QGraphicsOpacityEffect(widget);
     widget->setGraphicsEffect(effect);
     auto* animation = new QVariantAnimation(effect);
-    animation->setStartValue(shown ? 0.0 : 1.0);
-    animation->setEndValue(shown ? 1.0 : 0.0);
+    animation->setStartValue(from);
+    animation->setEndValue(to);
     animation->setDuration(duration);
     QObject::connect(animation, &QVariantAnimation::valueChanged, effect,
                      [effect](const QVariant& value) { effect->setOpacity(value.toDouble()); });
@@ -125,7 +128,7 @@ void fade(QWidget* widget, bool shown)
         widget->setVisible(shown);
         widget->setGraphicsEffect(nullptr);
     });
-    effect->setOpacity(shown ? 0 : 1);
+    effect->setOpacity(from);
     widget->show();
     animation->start();
 }
