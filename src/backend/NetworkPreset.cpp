@@ -102,19 +102,11 @@ size_t qHash(const NetworkPreset& preset, size_t seed)
 std::optional<QByteArray> encodePresets(const QList<NetworkPreset>& presets)
 {
     try {
-        // Profile by profile: one tree of them all would take longer to build and clear away than to write.
-        QByteArray array("[");
-        for (const NetworkPreset& preset : presets) {
-            if (array.size() > 1)
-                array += ',';
-            // A slash occurs in texts only, so it can be escaped in the finished text.
-            for (const char c : encoded(preset).dump()) {
-                if (c == '/')
-                    array += '\\';
-                array += c;
-            }
-        }
-        return array += ']';
+        Json array = Json::array();
+        for (const NetworkPreset& preset : presets)
+            array.push_back(encoded(preset));
+        // A slash occurs in texts only, so it can be escaped in the finished text.
+        return QByteArray::fromStdString(array.dump()).replace('/', "\\/");
     } catch (const CodingFailure&) {
         return std::nullopt;
     }
