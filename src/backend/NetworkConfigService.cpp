@@ -99,23 +99,20 @@ NetworkConfigService::~NetworkConfigService()
 template <typename Operation>
 auto NetworkConfigService::run(Operation operation)
 {
-    using Result = std::invoke_result_t<Operation, Opened&>;
+    using Result = std::invoke_result_t<Operation>;
     auto promise = std::make_shared<QPromise<Result>>();
     QFuture<Result> future = promise->future();
     promise->start();
     m_thread.start([this, number = announce(), promise, operation = std::move(operation)] {
-        {
-            Opened opened;
-            try {
-                if constexpr (std::is_void_v<Result>)
-                    operation(opened);
-                else
-                    promise->addResult(operation(opened));
-            } catch (...) {
-                promise->setException(std::current_exception());
-            }
-            promise->finish();
+        try {
+            if constexpr (std::is_void_v<Result>)
+                operation();
+            else
+                promise->addResult(operation());
+        } catch (...) {
+            promise->setException(std::current_exception());
         }
+        promise->finish();
         restUnlessAsked(number);
     });
     return future;
@@ -127,7 +124,7 @@ void NetworkConfigService::followChanges(bool follow)
         const std::scoped_lock lock(m_asking);
         m_follows = follow;
     }
-    run([](Opened&) {}); // after which the thread does so
+    run([] {}); // after which the thread does so
 }
 
 /// Tells the thread that there is something else to do; returns its number.
@@ -161,20 +158,19 @@ void NetworkConfigService::restUnlessAsked(int since)
 
 QFuture<QList<AdapterInfo>> NetworkConfigService::listAdapters()
 {
-    return run([this](Opened& opened) { return readAdapters(m_system, opened); });
+    return run([this] { return readAdapters(m_system); });
 }
 
 QFuture<NetworkAdapterInfo> NetworkConfigService::currentConfig(const Text& serviceName)
 {
-    return run(
-        [this, serviceName](Opened& opened) { return readConfiguration(m_system, serviceName, opened); });
+    return run([this, serviceName] { return readConfiguration(m_system, serviceName); });
 }
 
 QFuture<ChangePlan> NetworkConfigService::planConfiguration(const Text& serviceName,
                                                             const NetworkAdapterInfo& configuration,
                                                             std::optional<Settings> named)
 {
-    return run([this, serviceName, configuration, named](Opened&) {
+    return run([this, serviceName, configuration, named] {
         return planChange(m_system, serviceName, configuration, named);
     });
 }
@@ -184,7 +180,7 @@ QFuture<void> NetworkConfigService::writeConfiguration(const Text& serviceName,
                                                        AuthorizationRef authorization,
                                                        std::optional<Settings> named, Trial trial)
 {
-    return run([this, serviceName, configuration, authorization, named, trial](Opened&) {
+    return run([this, serviceName, configuration, authorization, named, trial] {
         changeService(
             m_system, serviceName, authorization, trial,
             [&](const NetworkService& service) { writeTo(service, configuration, named); },
@@ -195,7 +191,7 @@ QFuture<void> NetworkConfigService::writeConfiguration(const Text& serviceName,
 QFuture<void> NetworkConfigService::setServiceEnabled(bool enabled, const Text& serviceName,
                                                       AuthorizationRef authorization, Trial trial)
 {
-    return run([this, enabled, serviceName, authorization, trial](Opened&) {
+    return run([this, enabled, serviceName, authorization, trial] {
         changeService(
             m_system, serviceName, authorization, trial,
             [enabled](NetworkService& service) { service.setEnabled(enabled); },
@@ -206,7 +202,7 @@ QFuture<void> NetworkConfigService::setServiceEnabled(bool enabled, const Text& 
 QFuture<void> NetworkConfigService::endTrial(bool keep, const Text& serviceName,
                                              AuthorizationRef authorization)
 {
-    return run([this, keep, serviceName, authorization](Opened&) {
+    return run([this, keep, serviceName, authorization] {
         const Transaction transaction(m_system, authorization);
         const QString serviceID = transaction.service(serviceName)->serviceID().value_or(QString());
         if (transaction->endTrial(serviceID, keep))

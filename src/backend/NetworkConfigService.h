@@ -29,7 +29,7 @@ public:
     explicit NetworkConfigService(SystemConfiguration& system);
     NetworkConfigService(const NetworkConfigService&) = delete;
     NetworkConfigService& operator=(const NetworkConfigService&) = delete;
-    /// Waits for the operation that is running, and for what it has to release.
+    /// Waits for the operation that is running.
     ~NetworkConfigService() override;
 
     /// The services of the current set, active ones first, then by name. Empty when they cannot be read.

@@ -152,16 +152,16 @@ std::shared_ptr<NetworkService> serviceNamed(Preferences* preferences, const Tex
     return nullptr;
 }
 
-QList<AdapterInfo> readAdapters(SystemConfiguration& system, Opened& opened)
+QList<AdapterInfo> readAdapters(SystemConfiguration& system)
 {
-    opened.preferences = system.createPreferences(clientName);
-    const auto services = servicesOf(opened.preferences.get());
+    const auto preferences = system.createPreferences(clientName);
+    const auto services = servicesOf(preferences.get());
     if (!services)
         return {};
-    opened.state = system.createDynamicStore(clientName);
+    const auto state = system.createDynamicStore(clientName);
     QList<AdapterInfo> adapters;
     for (const auto& service : *services) {
-        if (auto adapter = makeAdapterInfo(*service, opened.state.get()))
+        if (auto adapter = makeAdapterInfo(*service, state.get()))
             adapters.append(std::move(*adapter));
     }
     std::ranges::stable_sort(adapters, [](const AdapterInfo& a, const AdapterInfo& b) {
@@ -170,15 +170,14 @@ QList<AdapterInfo> readAdapters(SystemConfiguration& system, Opened& opened)
     return adapters;
 }
 
-NetworkAdapterInfo readConfiguration(SystemConfiguration& system, const Text& serviceName, Opened& opened)
+NetworkAdapterInfo readConfiguration(SystemConfiguration& system, const Text& serviceName)
 {
     NetworkAdapterInfo configuration;
-    opened.state = system.createDynamicStore(clientName);
-    DynamicStore* const state = opened.state.get();
+    const auto state = system.createDynamicStore(clientName);
     if (state)
         configuration.computerName = state->computerName().value_or(QString());
-    opened.preferences = system.createPreferences(clientName);
-    const auto service = serviceNamed(opened.preferences.get(), serviceName);
+    const auto preferences = system.createPreferences(clientName);
+    const auto service = serviceNamed(preferences.get(), serviceName);
     const auto serviceID = service ? service->serviceID() : std::nullopt;
     if (!serviceID)
         return configuration;
@@ -191,10 +190,10 @@ NetworkAdapterInfo readConfiguration(SystemConfiguration& system, const Text& se
         readAddresses(configuration, *ipv4);
     }
     if (configuration.ipv4Mode == IPv4Mode::dhcp) {
-        if (const auto live = serviceState(state, serviceID))
+        if (const auto live = serviceState(state.get(), serviceID))
             readAddresses(configuration, *live);
     }
-    if (const auto lease = interfaceState(state, bsdName, QStringLiteral("/DHCP")))
+    if (const auto lease = interfaceState(state.get(), bsdName, QStringLiteral("/DHCP")))
         configuration.dhcpServer = textIn(*lease, QStringLiteral("ServerAddress")).value_or(Text());
     if (const auto dns = configurationOf(*service, dnsType))
         readDNS(configuration, *dns);

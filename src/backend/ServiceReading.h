@@ -12,18 +12,11 @@ namespace ardeo
 /// The name by which the program opens the system's preferences.
 inline const QString clientName = QStringLiteral("Ardeo-IPConfig");
 
-/// What a read has opened. It is released when the result has been handed over already: that takes a system
-/// with many services a while, and nobody has to wait for it.
-struct Opened {
-    std::unique_ptr<Preferences> preferences;
-    std::unique_ptr<DynamicStore> state;
-};
-
 /// The services of the current set, active ones first, then by name. Empty when they cannot be read.
-QList<AdapterInfo> readAdapters(SystemConfiguration& system, Opened& opened);
+QList<AdapterInfo> readAdapters(SystemConfiguration& system);
 /// The configuration of the service of that name with its live state. What cannot be read is as in the empty
 /// record.
-NetworkAdapterInfo readConfiguration(SystemConfiguration& system, const Text& serviceName, Opened& opened);
+NetworkAdapterInfo readConfiguration(SystemConfiguration& system, const Text& serviceName);
 
 /// The first service of that name in the set's order; null when there is none.
 std::shared_ptr<NetworkService> serviceNamed(Preferences* preferences, const Text& name);
