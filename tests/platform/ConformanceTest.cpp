@@ -161,6 +161,10 @@ private Q_SLOTS:
         QCOMPARE(saved(m_wired, ipv4), dhcp);
         QCOMPARE(saved(m_wired, dns), Dictionary());
         QTRY_VERIFY(live(m_wired).contains(u"Router"_s));
+        const Dictionary leased = live(m_wired);
+        QCOMPARE(write(m_wired, dhcp), 0); // the same once more: a fresh lease
+        QTRY_VERIFY(live(m_wired).contains(u"Router"_s));
+        QVERIFY(m_real || live(m_wired) != leased); // a real server may give the same address
     }
 
     void badSettingsAreRefusedWhole()
