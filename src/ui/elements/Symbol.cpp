@@ -34,16 +34,6 @@ QPixmap tintedSymbol(const QString& name, const QColor& colour, QSize pixels)
     return pixmap;
 }
 
-/// What the engine paints, as a picture on no ground.
-QPixmap picture(QIconEngine& engine, const QSize& size, QIcon::Mode mode, QIcon::State state)
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    engine.paint(&painter, pixmap.rect(), mode, state);
-    return pixmap;
-}
-
 class SymbolEngine final : public QIconEngine
 {
 public:
@@ -57,33 +47,17 @@ public:
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
-        return picture(*this, size, mode, state);
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
     }
     QIconEngine* clone() const override { return new SymbolEngine(*this); }
 
 private:
     QString m_name;
     QColor m_colour;
-};
-
-/// Draws the program's icon when it is looked at: the desktop takes its copy once, and ready pictures in all
-/// sizes would stay for good. An icon made from the file would load every plugin that reads pictures.
-class ApplicationIconEngine final : public QIconEngine
-{
-public:
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
-    {
-        QSvgRenderer(QStringLiteral(":/icons/org.ardeo.IPConfig.svg")).render(painter, rect);
-    }
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        return picture(*this, size, mode, state);
-    }
-    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
-    {
-        return {{16, 16}, {24, 24}, {32, 32}, {48, 48}, {64, 64}, {128, 128}};
-    }
-    QIconEngine* clone() const override { return new ApplicationIconEngine(*this); }
 };
 
 } // namespace
@@ -104,7 +78,7 @@ QIcon symbolIcon(const QString& name, const QColor& colour)
 
 QIcon applicationIcon()
 {
-    return QIcon(new ApplicationIconEngine);
+    return QIcon(QStringLiteral(":/icons/org.ardeo.IPConfig.svg"));
 }
 
 } // namespace ardeo

@@ -13,7 +13,7 @@ void drawSymbol(QPainter& painter, const QRectF& rect, const QString& name, cons
 /// The symbol as an icon in that colour.
 QIcon symbolIcon(const QString& name, const QColor& colour);
 
-/// The program's own icon, in the sizes that desktops show.
+/// The program's own icon.
 QIcon applicationIcon();
 
 } // namespace ardeo
