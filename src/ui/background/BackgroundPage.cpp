@@ -10,18 +10,10 @@
 namespace ardeo
 {
 
-namespace
-{
-
-constexpr double maxDist = 220;
-constexpr double speed = 0.25;
-
-} // namespace
-
 BackgroundPage::BackgroundPage(Clock& clock, int width, int padding, QWidget* parent)
     : QWidget(parent)
     , m_padding(padding)
-    , m_background(new NeuralNetworkBackground(clock, maxDist, speed, this))
+    , m_background(new NeuralNetworkBackground(clock, this))
 {
     look::followTextSize(this, [this, width] { setFixedWidth(look::scaled(width)); });
     m_background->setCovered([this] { return covered(); });

@@ -25,7 +25,7 @@ constexpr int backdropDoublings = 2;
 
 } // namespace
 
-NeuralNetworkBackground::NeuralNetworkBackground(Clock& clock, double maxDist, double speed, QWidget* parent)
+NeuralNetworkBackground::NeuralNetworkBackground(Clock& clock, QWidget* parent, double maxDist, double speed)
     : QWidget(parent)
     , m_clock(clock)
     , m_maxDist(maxDist)

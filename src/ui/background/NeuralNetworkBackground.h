@@ -20,10 +20,12 @@ class NeuralNetworkBackground final : public QWidget
     Q_OBJECT
 
 public:
-    NeuralNetworkBackground(Clock& clock, double maxDist, double speed, QWidget* parent);
+    /// Nodes that are nearer than maxDist, in points, are linked; speed is that of time.
+    NeuralNetworkBackground(Clock& clock, QWidget* parent, double maxDist = 220, double speed = 0.25);
 
-    /// Tells which part is covered by what lies above. Painting that anew for each frame would cost far more
-    /// than the frame, so it follows twice a second only.
+    /// Tells which part is covered by what lies above. Painting that anew for each frame would make the
+    /// moving window take four times as much of a core (20 % instead of 5), so it follows twice a second
+    /// only.
     void setCovered(std::function<QRegion()> covered);
     /// A frame so strongly blurred that it changes slowly: what shows through a card. It is the same for all
     /// that is painted between two updates of what is covered.
@@ -38,8 +40,8 @@ protected:
 
 private:
     void startOrStop();
-    /// Frames are drawn when they are looked at, and where: at the start a window changes its size and looks
-    /// many times, and later the cards cover most of it.
+    /// Frames are drawn when they are looked at, and where: the cards cover most of it, and to draw all the
+    /// same would make the moving window take twice as much of a core (11 % instead of 5).
     const QImage& frame(const QRegion& seen);
     void forgetPicture();
     /// The picture, and the backdrop that is made of it.

@@ -22,8 +22,7 @@ namespace ardeo
 namespace
 {
 
-// In points.
-constexpr double lineWidth = 0.8;
+constexpr double lineWidth = 0.8; // in points, as the other lengths
 constexpr double glowWidth = 2.5;
 constexpr double glowBlur = 3;
 constexpr double nodeGlowRadius = 4.8;

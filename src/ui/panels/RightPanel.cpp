@@ -26,8 +26,6 @@ namespace ardeo
 namespace
 {
 
-constexpr double backgroundMaxDist = 220;
-constexpr double backgroundSpeed = 0.25;
 constexpr int smallestWidth = 460;
 
 QWidget* makeEmptyState(MainViewModel& vm)
@@ -68,7 +66,7 @@ QString nameOf(const std::optional<AdapterInfo>& adapter, const char* otherwise)
 RightPanel::RightPanel(MainViewModel& model, Clock& clock, QWidget* parent)
     : QWidget(parent)
     , vm(model)
-    , m_background(new NeuralNetworkBackground(clock, backgroundMaxDist, backgroundSpeed, this))
+    , m_background(new NeuralNetworkBackground(clock, this))
 {
     auto* layers = new QStackedLayout(this);
     layers->addWidget(makeContent());
