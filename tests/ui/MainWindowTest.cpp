@@ -36,6 +36,7 @@
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolTip>
@@ -547,7 +548,10 @@ private Q_SLOTS:
         QVERIFY(comes("Ethernet (removed)") && w.shows("Not connected"));
         w.window->hide();
         QTRY_VERIFY(!w.find<QWidget>("Refresh"));
+        QCoreApplication::processEvents(); // it is noticed when the event has been handled
+        QSignalSpy changes(&w.model->configService, &NetworkConfigService::changed);
         change("\"LAN\"", "\"Ethernet\"");
+        QVERIFY(!changes.wait(1500)); // nobody looks
         w.window->show();
         QTRY_VERIFY(w.shows("Connected") && w.shows("10.20.1.44"));
     }
