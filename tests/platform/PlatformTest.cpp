@@ -93,6 +93,11 @@ private Q_SLOTS:
              "{'ConfigMethod':'Manual','Addresses':['10.0.0.3'],'SubnetMasks':['255.0.0.0']}",
              "{'ConfigMethod':'Manual','Addresses':['10.0.0.3','10.0.0.5'],'SubnetMasks':['255.0.0.0','255.0."
              "0.0']}"},
+            {&ipv4Differences,
+             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3','10.0.0.5'],'SubnetMasks':['255.0.0.0','255.0."
+             "0.0']}",
+             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3'],'SubnetMasks':['255.255.0.0']}",
+             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3'],'SubnetMasks':['255.255.0.0']}"},
             {&dnsDifferences, "{'ServerAddresses':['1.1.1.1','2.2.2.2','3.3.3.3'],'SearchDomains':['a']}",
              "{'ServerAddresses':['1.1.1.1','2.2.2.2'],'SearchDomains':['b']}",
              "{'ServerAddresses':['1.1.1.1','2.2.2.2','3.3.3.3'],'SearchDomains':['b']}"},
