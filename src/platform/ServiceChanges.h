@@ -2,6 +2,8 @@
 
 #include "platform/ProtocolConfiguration.h"
 
+#include <chrono>
+
 namespace ardeo
 {
 
@@ -20,6 +22,9 @@ struct ServiceChanges {
     /// were written although they are so already.
     bool askForLease() const;
 };
+
+/// How much longer a system waits before it takes a trial back than whoever began it, and does so as well.
+inline constexpr std::chrono::seconds trialReserve(5);
 
 /// Why a change of a service is refused while one of it awaits confirmation, and why none can be ended.
 QString trialReason();

@@ -2,13 +2,18 @@
 #include "platform/FileUserDefaults.h"
 #include "platform/ProtocolConfiguration.h"
 #include "platform/ServiceChanges.h"
+#include "platform/linux/desktop/RemoteSession.h"
 #include "platform/linux/program/BootTimeClock.h"
 #include "platform/linux/program/XdgLoginItem.h"
 #include "platform/simulated/SimulatedPlatform.h"
 
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
 #include <QJsonDocument>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -18,6 +23,24 @@
 using namespace ardeo;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+
+namespace
+{
+
+/// What logind tells of the session that asks.
+class Logind final : public QDBusVirtualObject
+{
+public:
+    QVariantMap session;
+
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& question, const QDBusConnection& bus) override
+    {
+        return bus.send(question.createReply(session));
+    }
+};
+
+} // namespace
 
 class PlatformTest : public QObject
 {
@@ -221,6 +244,48 @@ private Q_SLOTS:
         QCOMPARE(statusWith("nonsense"), LoginItem::Status::notFound);
         QVERIFY(!item.unregisterItem());
         QCOMPARE(item.status(), LoginItem::Status::notRegistered);
+    }
+
+    void theWayOfWhoIsElsewhereIsKnown()
+    {
+        const QString bus = u"ardeo-test"_s;
+        const auto way = [&] { return remoteInterface(QDBusConnection(bus)).value_or(u"none"_s); };
+        const std::pair<const char*, const char*> connections[]{{"127.0.0.9 50000 127.0.0.1 22", "lo"},
+                                                                {"203.0.113.1 50000 203.0.113.2 22", "none"},
+                                                                {"127.0.0.1 22", "none"},
+                                                                {"", "none"}};
+        for (const auto& [connection, interface] : connections) {
+            qputenv("SSH_CONNECTION", connection);
+            QCOMPARE(way(), QLatin1String(interface));
+        }
+        qunsetenv("SSH_CONNECTION");
+        QProcess daemon;
+        daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
+        QVERIFY(daemon.waitForReadyRead());
+        const QString address = QString::fromUtf8(daemon.readLine().trimmed());
+        QThread thread; // which answers while the question blocks
+        Logind logind;
+        auto server = QDBusConnection::connectToBus(address, u"ardeo-logind"_s);
+        QVERIFY(server.registerVirtualObject(u"/org/freedesktop/login1/session/auto"_s, &logind));
+        QVERIFY(server.registerService(u"org.freedesktop.login1"_s));
+        QDBusConnection::connectToBus(address, bus);
+        logind.moveToThread(&thread);
+        thread.start();
+        const std::pair<QVariantMap, const char*> sessions[]{
+            {{{u"Remote"_s, true}, {u"RemoteHost"_s, u"127.0.0.1"_s}}, "lo"},
+            {{{u"Remote"_s, false}, {u"RemoteHost"_s, u"127.0.0.1"_s}}, "none"},
+            {{{u"Remote"_s, true}, {u"RemoteHost"_s, u"a.name.example"_s}}, "none"},
+        };
+        for (const auto& [session, interface] : sessions) {
+            logind.session = session;
+            QCOMPARE(way(), QLatin1String(interface));
+        }
+        thread.quit();
+        thread.wait();
+        QDBusConnection::disconnectFromBus(bus);
+        QDBusConnection::disconnectFromBus(u"ardeo-logind"_s);
+        daemon.kill();
+        daemon.waitForFinished();
     }
 
     void clockFinishesItsWaits()

@@ -519,6 +519,42 @@ private Q_SLOTS:
         QCOMPARE(bar->maximum(), bar->minimum());
     }
 
+    void whoCameOverTheServiceHasToConfirm()
+    {
+        Window w;
+        const QString device = *w.model->selectedAdapter.value()->bsdName;
+        w.platform.remoteInterface = [device] { return device; };
+        const auto row = [&] { return w.find<QAbstractButton>("Keep") != nullptr; };
+        const auto seconds = [&] {
+            int left = 60;
+            while (left > 0 && !w.find<QLabel>(qPrintable(u"The change is taken back in %1 s."_s.arg(left))))
+                --left;
+            return left;
+        };
+        QVERIFY(!row());
+        for (const bool confirms : {true, false}) {
+            w.model->ipAddress = QString(confirms ? u"10.20.0.8"_s : u"10.20.0.7"_s);
+            w.model->ipv4Mode = IPv4Mode::manual;
+            w.find<QAbstractButton>("Apply")->click();
+            w.finish();
+            QTRY_VERIFY(row());
+            const int left = seconds();
+            QVERIFY(left > 20);
+            w.clock->advance(10s);
+            QTRY_COMPARE(seconds(), left - 10);
+            if (confirms)
+                w.find<QAbstractButton>("Keep")->click();
+            else
+                w.clock->advance(20s);
+            w.finish();
+            QTRY_VERIFY(!row());
+            QTRY_COMPARE(w.model->ipAddress.value(), Text(u"10.20.0.8"_s));
+            QTRY_COMPARE(w.model->applySuccess.value(), confirms);
+        }
+        QTRY_VERIFY(w.model->applyError.value() ==
+                    Text(u"Nobody confirmed the change of 'Ethernet', so it was taken back."_s));
+    }
+
     void whatOthersChangeIsFollowedWhereItShows()
     {
         Window w;

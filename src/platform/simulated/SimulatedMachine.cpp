@@ -2,6 +2,7 @@
 
 #include "platform/FileReplacement.h"
 #include "platform/ProtocolConfiguration.h"
+#include "platform/ServiceChanges.h"
 
 #include <QDir>
 #include <QFile>
@@ -225,8 +226,9 @@ bool takeBackOverdue(Json& machine, std::chrono::nanoseconds now)
         const auto deadline = confirmationDeadline(service);
         const Json* began = deadline ? member(service["trial"], "began") : nullptr;
         // Time that has gone back has begun anew with the computer.
-        const bool isOver = deadline && (now >= *deadline || !began || !began->is_number_integer() ||
-                                         now < std::chrono::milliseconds(began->get<qint64>()));
+        const bool isOver =
+            deadline && (now >= *deadline + trialReserve || !began || !began->is_number_integer() ||
+                         now < std::chrono::milliseconds(began->get<qint64>()));
         if (isOver)
             endTrial(service, false);
         any = any || isOver;

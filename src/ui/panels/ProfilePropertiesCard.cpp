@@ -176,7 +176,7 @@ QWidget* makeTrialRow(MainViewModel& vm)
         keep, [&vm] { return !vm.isApplying.value(); }, [keep](bool possible) { keep->setUsable(possible); });
     row->addWidget(keep);
     auto* left = new TextLabel(QString(), look::font(TextStyle::caption), Emphasis::secondary);
-    left->setWordWrap(true);
+    left->setWrapped();
     row->addWidget(left, 1);
     bind(
         trial, [&vm] { return vm.secondsToConfirm.value(); },

@@ -26,10 +26,10 @@ using Addresses = std::unique_ptr<addrinfo, decltype(&freeaddrinfo)>;
 Addresses addressOf(const QString& host)
 {
     addrinfo hints{};
-    hints.ai_flags = AI_NUMERICHOST;
+    hints.ai_flags = AI_NUMERICHOST | AI_NUMERICSERV;
     hints.ai_socktype = SOCK_DGRAM;
     addrinfo* list = nullptr;
-    const int status = getaddrinfo(host.toUtf8().constData(), "ssh", &hints, &list);
+    const int status = getaddrinfo(host.toUtf8().constData(), "22", &hints, &list);
     return {status == 0 ? list : nullptr, freeaddrinfo};
 }
 

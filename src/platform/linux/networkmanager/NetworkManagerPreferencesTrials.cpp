@@ -14,8 +14,6 @@ namespace ardeo
 namespace
 {
 
-/// How much longer the daemon waits before it takes a trial back than whoever began it, and does so as well.
-constexpr std::chrono::seconds reserve(5);
 /// How long the daemon leaves that to whoever has begun to take the trial back.
 constexpr guint32 secondsToTakeBack = 60;
 
@@ -60,7 +58,7 @@ SystemStatus NetworkManagerPreferences::putOnTrial(const Profile& profile, NMCon
     if (right != SystemStatus::ok)
         return right;
     GLibError error;
-    const auto seconds = static_cast<guint32>((*m_trial + reserve).count());
+    const auto seconds = static_cast<guint32>((*m_trial + trialReserve).count());
     const GVariantRef answer = m_session->ask(
         "CheckpointCreate",
         g_variant_new("(@aouu)", paths.get(), seconds, guint32(NM_CHECKPOINT_CREATE_FLAG_NONE)), "(o)",
