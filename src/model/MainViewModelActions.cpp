@@ -4,6 +4,7 @@
 
 #include <QCoroFuture>
 
+#include <algorithm>
 #include <utility>
 
 namespace ardeo
@@ -171,7 +172,15 @@ QCoro::Task<> MainViewModel::guardTrial(Text serviceName, std::chrono::seconds t
 {
     const auto self = shared_from_this();
     guardedTrials = guardedTrials.value() + 1;
-    co_await m_platform.clock->sleep(time);
+    // The trial has begun when the change was saved, which can be a while ago.
+    const auto now = [this] {
+        return std::chrono::duration_cast<std::chrono::milliseconds>(m_platform.clock->continuousTime());
+    };
+    std::chrono::milliseconds deadline = now() + time;
+    const QList<AdapterInfo> atFirst = co_await configService.listAdapters();
+    if (const auto service = serviceIn(atFirst, serviceName); service && service->confirmBy)
+        deadline = std::min(deadline, *service->confirmBy);
+    co_await m_platform.clock->sleep(std::max(0ms, deadline - now()));
     for (int attempt = 1; attempt <= retries; ++attempt) {
         const QList<AdapterInfo> listed = co_await configService.listAdapters();
         const auto service = serviceIn(listed, serviceName);
