@@ -2,7 +2,7 @@
 
 build_packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-svg-dev libxcb1-dev qcoro-qt6-dev nlohmann-json3-dev libnm-dev libpolkit-gobject-1-dev
+    qt6-base-dev qt6-svg-dev libxcb1-dev libxcb-xfixes0-dev qcoro-qt6-dev nlohmann-json3-dev libnm-dev libpolkit-gobject-1-dev
     librsvg2-bin
 )
 test_packages=(

@@ -40,10 +40,15 @@ void AppDelegate::showMainWindow() const
 {
     if (!mainWindow)
         return;
+    restorePlace();
+    bringToFront(*mainWindow);
+}
+
+void AppDelegate::restorePlace() const
+{
     // The place is named once more, or the window manager would not know that it is meant.
     if (mainWindow->isHidden() && mainWindow->restoreGeometry(m_place))
         mainWindow->windowHandle()->setGeometry(mainWindow->geometry());
-    bringToFront(*mainWindow);
 }
 
 void AppDelegate::hideMainWindow()
@@ -66,6 +71,14 @@ void AppDelegate::hideMainWindow()
     showNotice(QStringLiteral("Ardeo IP Config is still running. This desktop shows no tray icons, so its "
                               "window was minimised instead of hidden. %1 ends the program.")
                    .arg(keys::text(keys::quit)));
+}
+
+void AppDelegate::menuBarExtraDidVanish() const
+{
+    if (!mainWindow || !mainWindow->isHidden())
+        return;
+    restorePlace();
+    mainWindow->showMinimized();
 }
 
 void AppDelegate::hide()

@@ -27,10 +27,14 @@ public:
     /// Takes the main window off the screen and the program out of the task switcher. On a desktop that has
     /// no place for the tray icon the window is minimised instead, and the first time this says why.
     void hideMainWindow();
+    /// Brings a hidden main window back, minimised: nothing else leads to it any more.
+    void menuBarExtraDidVanish() const;
     /// Minimises all windows of the program.
     static void hide();
 
 private:
+    void restorePlace() const;
+
     /// Where the hidden window was: window managers find a new place for what is shown again.
     QByteArray m_place;
     bool m_hasExplained = false;

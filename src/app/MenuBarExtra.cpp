@@ -1,6 +1,5 @@
 #include "app/MenuBarExtra.h"
 
-#include "platform/linux/desktop/X11Desktop.h"
 #include "ui/elements/Symbol.h"
 
 #include <QCursor>
@@ -9,36 +8,32 @@
 namespace ardeo
 {
 
-namespace
-{
-
-using namespace std::chrono_literals;
-
-/// By then a session that has just begun has its panels.
-constexpr auto patience = 30s;
-
-} // namespace
-
-MenuBarExtra::MenuBarExtra(QMenu& menu, AppDelegate& appDelegate, Clock& clock, const QString& toolTip)
+MenuBarExtra::MenuBarExtra(QMenu& menu, AppDelegate& appDelegate, const QString& toolTip)
     : m_menu(menu)
     , m_appDelegate(appDelegate)
     , m_toolTip(toolTip)
 {
-    // The toolkit settles once and for all, when the first icon is made, for a status notifier host or for
-    // X11's tray. So nothing is made before one of them is seen, or has had
-    // the time to come.
-    connect(&m_area, &StatusArea::hostKnown, this, [this](bool present) {
-        if (present || hasX11Tray())
-            showIcon();
-    });
-    // An icon for X11's tray then waits for that by itself.
-    clock.sleep(patience).then(this, [this] { showIcon(); });
+    connect(&m_area, &StatusArea::changed, this, &MenuBarExtra::followArea);
 }
 
-void MenuBarExtra::showIcon()
+bool MenuBarExtra::isPresent() const
 {
-    if (m_icon)
-        return;
+    return m_icon && (m_isInTray ? m_area.hasTray() : m_area.hasNotifierHost());
+}
+
+void MenuBarExtra::followArea()
+{
+    // The toolkit settles once and for all, when the first icon is made, for a status notifier host or for
+    // X11's tray. So nothing is made before one of them is there; later it comes and goes with that one.
+    if (!m_icon && (m_area.hasNotifierHost() || m_area.hasTray()))
+        makeIcon();
+    if (!isPresent())
+        m_appDelegate.menuBarExtraDidVanish();
+}
+
+void MenuBarExtra::makeIcon()
+{
+    m_isInTray = !m_area.hasNotifierHost();
     // A colour that stands out from light panels as well as from dark ones: which it will be, nobody tells.
     const QColor colour = look::colours(ColorScheme::light).accent;
     m_icon = std::make_unique<QSystemTrayIcon>(

@@ -32,16 +32,33 @@ bool asksForText(int argc, char** argv)
     });
 }
 
+/// Ends when the session does. The toolkit's own way to quit asks the windows, of which the main one refuses.
+class Application final : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::Quit)
+            return QApplication::event(event);
+        ardeo::quit();
+        return true;
+    }
+};
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    DesktopApplication desktopApplication;
     std::unique_ptr<QCoreApplication> application;
     const bool isText = argc > 1 && asksForText(argc, argv);
     if (isText)
         application = std::make_unique<QCoreApplication>(argc, argv);
     else
-        application = std::make_unique<QApplication>(argc, argv);
+        application = std::make_unique<Application>(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Ardeo IP Config"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ARDEO_VERSION));
     QGuiApplication::setDesktopFileName(QLatin1String(applicationIdentifier));
@@ -76,7 +93,6 @@ int main(int argc, char** argv)
         return 2;
     }
 
-    DesktopApplication desktopApplication;
     switch (desktopApplication.claim()) {
     case DesktopApplication::Claim::granted:
         break;
@@ -99,7 +115,7 @@ int main(int argc, char** argv)
 
     QApplication::setWindowIcon(applicationIcon());
     MenuBarMenuView menu(*app.vm, app.appDelegate, app.notifications, platform);
-    const MenuBarExtra menuBarExtra(menu, app.appDelegate, *platform.clock,
+    const MenuBarExtra menuBarExtra(menu, app.appDelegate,
                                     QStringLiteral("Ardeo IP Config on %1").arg(platform.description));
     app.appDelegate.hasMenuBarExtra = [&menuBarExtra] { return menuBarExtra.isPresent(); };
     const int status = QApplication::exec();

@@ -1,8 +1,8 @@
 #include "platform/linux/desktop/DesktopApplication.h"
 
 #include "platform/Platform.h"
+#include "platform/linux/desktop/X11Desktop.h"
 
-#include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 
@@ -18,8 +18,13 @@ constexpr int answerMilliseconds = 5'000;
 
 constexpr auto activationToken = "activation-token";
 constexpr auto activationVariable = "XDG_ACTIVATION_TOKEN";
+/// The same on X11, and where launchers are old.
+constexpr auto startupIdentifier = "desktop-startup-id";
+constexpr auto startupVariable = "DESKTOP_STARTUP_ID";
 
 } // namespace
+
+DesktopApplication::DesktopApplication() : m_startupIdentifier(qEnvironmentVariable(startupVariable)) {}
 
 DesktopApplication::Claim DesktopApplication::claim()
 {
@@ -28,6 +33,11 @@ DesktopApplication::Claim DesktopApplication::claim()
     if (!bus.isConnected() ||
         !bus.registerObject(QLatin1String(objectPath), this, QDBusConnection::ExportScriptableSlots))
         return Claim::granted;
+    return claimName(bus);
+}
+
+DesktopApplication::Claim DesktopApplication::claimName(QDBusConnection& bus) const
+{
     const QString name = QLatin1String(applicationIdentifier);
     const auto reply = bus.interface()->registerService(name, QDBusConnectionInterface::DontQueueService,
                                                         QDBusConnectionInterface::DontAllowReplacement);
@@ -36,18 +46,25 @@ DesktopApplication::Claim DesktopApplication::claim()
         return Claim::granted;
     QDBusMessage activate = QDBusMessage::createMethodCall(
         name, QLatin1String(objectPath), QLatin1String(interfaceName), QStringLiteral("Activate"));
+    activate.setAutoStartService(false);
     // Without the token of the click that started us, the desktop would not let the other one come up.
-    activate << QVariantMap{{QLatin1String(activationToken), qEnvironmentVariable(activationVariable)}};
+    activate << QVariantMap{{QLatin1String(activationToken), qEnvironmentVariable(activationVariable)},
+                            {QLatin1String(startupIdentifier), m_startupIdentifier}};
     const QDBusMessage answer = bus.call(activate, QDBus::Block, answerMilliseconds);
-    return answer.type() == QDBusMessage::ReplyMessage ? Claim::handedOver : Claim::unanswered;
+    if (answer.type() == QDBusMessage::ReplyMessage)
+        return Claim::handedOver;
+    // The other one may have ended meanwhile.
+    return bus.interface()->isServiceRegistered(name) ? Claim::unanswered : claimName(bus);
 }
 
 void DesktopApplication::Activate(const QVariantMap& platformData)
 {
-    const QString token = platformData.value(QLatin1String(activationToken)).toString();
+    const QString identifier = platformData.value(QLatin1String(startupIdentifier)).toString();
+    const QString token = platformData.value(QLatin1String(activationToken), identifier).toString();
     if (!token.isEmpty())
         qputenv(activationVariable, token.toUtf8());
     Q_EMIT activated();
+    endStartup(identifier.toUtf8());
 }
 
 void DesktopApplication::Open(const QStringList&, const QVariantMap& platformData)

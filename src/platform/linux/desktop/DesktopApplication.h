@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QObject>
 #include <QVariantMap>
 
@@ -23,6 +24,9 @@ public:
         unanswered
     };
 
+    /// Made before the QApplication, which takes what the launcher has told about this start.
+    DesktopApplication();
+
     /// Makes this process the session's one, or hands over to the one that is.
     Claim claim();
 
@@ -36,6 +40,12 @@ public Q_SLOTS:
     /// The program has no actions of that sort: does nothing.
     Q_SCRIPTABLE void ActivateAction(const QString& name, const QVariantList& parameter,
                                      const QVariantMap& platformData);
+
+private:
+    Claim claimName(QDBusConnection& bus) const;
+
+    /// What tells the desktop which click has started us; empty where there was none.
+    QString m_startupIdentifier;
 };
 
 } // namespace ardeo

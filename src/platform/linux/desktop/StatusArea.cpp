@@ -7,6 +7,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
+#include <QGuiApplication>
 
 namespace ardeo
 {
@@ -28,7 +29,15 @@ StatusArea::StatusArea(QObject* parent) : QObject(parent)
     for (const char* change : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
         bus.connect(QLatin1String(watcherService), QLatin1String(watcherPath), QLatin1String(watcherService),
                     QLatin1String(change), this, SLOT(askForHost()));
+    m_trayEvent = watchX11Tray();
+    if (m_trayEvent != 0)
+        qGuiApp->installNativeEventFilter(this);
     askForHost();
+}
+
+bool StatusArea::hasTray() const
+{
+    return hasX11Tray();
 }
 
 void StatusArea::askForHost()
@@ -41,15 +50,18 @@ void StatusArea::askForHost()
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
         const QVariantList values = answer->reply().arguments();
-        m_hasHost = answer->reply().type() == QDBusMessage::ReplyMessage && !values.isEmpty() &&
-                    values.first().value<QDBusVariant>().variant().toBool();
-        Q_EMIT hostKnown(m_hasHost);
+        m_isHostKnown = true;
+        m_hasNotifierHost = answer->reply().type() == QDBusMessage::ReplyMessage && !values.isEmpty() &&
+                            values.first().value<QDBusVariant>().variant().toBool();
+        Q_EMIT changed();
     });
 }
 
-bool StatusArea::isPresent() const
+bool StatusArea::nativeEventFilter(const QByteArray&, void* message, qintptr*)
 {
-    return m_hasHost || hasX11Tray();
+    if (isX11Event(message, m_trayEvent) && m_isHostKnown)
+        Q_EMIT changed();
+    return false;
 }
 
 } // namespace ardeo
