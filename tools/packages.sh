@@ -10,6 +10,10 @@ test_packages=(
     gir1.2-atspi-2.0 at-spi2-core xvfb openbox fonts-dejavu-core xdotool tint2 desktop-file-utils file
     python3-dbus python3-gi appstream man-db clang-tidy cppcheck
 )
+sway_packages=(sway qt6-wayland gir1.2-gtk-3.0 imagemagick)
+gnome_packages=(gnome-shell xdg-desktop-portal-gnome xwayland "${sway_packages[@]:1}")
+plasma_packages=(kwin-wayland plasma-workspace qtwayland5 xdg-desktop-portal-kde "${sway_packages[@]:1}")
+xfce_packages=(xfwm4 xfce4-panel xfce4-settings xfce4-session "${sway_packages[@]:2}")
 fuzzing_packages=(clang libclang-rt-dev)
 benchmark_packages=(
     debhelper libbenchmark-dev network-manager-gnome nm-tray trayer python3-xlib python3-gi gir1.2-atspi-2.0
