@@ -5,9 +5,29 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QWindow>
 
 namespace ardeo
 {
+
+namespace
+{
+
+/// On Wayland the toolkit draws some windows' frames itself, in the colours of the moment when it began to.
+void redrawFrames()
+{
+    if (!QGuiApplication::platformName().startsWith(QStringLiteral("wayland")))
+        return;
+    for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        const Qt::WindowFlags flags = window->flags();
+        if (window->frameMargins().isNull())
+            continue;
+        window->setFlags(flags | Qt::FramelessWindowHint);
+        window->setFlags(flags);
+    }
+}
+
+} // namespace
 
 Appearance::Appearance()
     : m_paletteScheme(QApplication::palette().color(QPalette::Window).lightness() < 128 ? ColorScheme::dark
@@ -29,6 +49,7 @@ void Appearance::follow()
     QEvent restyled(QEvent::StyleChange);
     for (QWidget* widget : QApplication::allWidgets())
         QApplication::sendEvent(widget, &restyled);
+    redrawFrames();
 }
 
 } // namespace ardeo
