@@ -3,7 +3,7 @@
 build_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-svg-dev libxcb1-dev libxcb-xfixes0-dev qcoro-qt6-dev nlohmann-json3-dev libnm-dev
-    libpolkit-gobject-1-dev librsvg2-bin
+    libpolkit-gobject-1-dev librsvg2-bin qt6-l10n-tools qt6-tools-dev qt6-translations-l10n
 )
 test_packages=(
     clang-format network-manager polkitd dnsmasq-base dbus dbus-bin iproute2 util-linux bsdutils

@@ -68,8 +68,8 @@ void AppDelegate::hideMainWindow()
     mainWindow->showMinimized();
     if (std::exchange(m_hasExplained, true))
         return;
-    showNotice(QStringLiteral("Ardeo IP Config is still running. This desktop shows no tray icons, so its "
-                              "window was minimised instead of hidden. %1 ends the program.")
+    showNotice(tr("Ardeo IP Config is still running. This desktop shows no tray icons, so its "
+                  "window was minimised instead of hidden. %1 ends the program.")
                    .arg(keys::text(keys::quit)));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QPointer>
 #include <QWidget>
 
@@ -12,6 +13,8 @@ namespace ardeo
 /// the main window never ends it.
 class AppDelegate final
 {
+    Q_DECLARE_TR_FUNCTIONS(ardeo::AppDelegate)
+
 public:
     /// The window that showMainWindow brings back; null until there is one, and when it is destroyed.
     QPointer<QWidget> mainWindow;

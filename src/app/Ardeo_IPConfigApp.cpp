@@ -79,10 +79,9 @@ void Ardeo_IPConfigApp::openWindow(const QString& id)
 {
     QPointer<QWidget>& window = m_windows[id];
     if (!window && id == QStringLiteral("help")) {
-        window =
-            makeWindow(QStringLiteral("Ardeo IP Config Help"), helpSize, new HelpView(*m_platform.clock));
+        window = makeWindow(tr("Ardeo IP Config Help"), helpSize, new HelpView(*m_platform.clock));
     } else if (!window && id == QStringLiteral("shortcuts")) {
-        window = makeWindow(QStringLiteral("Keyboard Shortcuts"), shortcutsSize,
+        window = makeWindow(tr("Keyboard Shortcuts"), shortcutsSize,
                             new ShortcutsView(shortcutSections(), *m_platform.clock));
     }
     if (window)
@@ -98,9 +97,8 @@ void Ardeo_IPConfigApp::showAboutPanel()
                                    .replace(QStringLiteral(" ("), QStringLiteral("\n("))
                                    .replace(u'-', QStringLiteral("-\u2060"));
         m_aboutPanel = new NoticePanel(
-            QStringLiteral("About Ardeo IP Config"),
-            QStringLiteral("Version %1\nWorks on: %2").arg(QApplication::applicationVersion(), system),
-            &m_mainWindow);
+            tr("About Ardeo IP Config"),
+            tr("Version %1\nWorks on: %2").arg(QApplication::applicationVersion(), system), &m_mainWindow);
     }
     bringToFront(*m_aboutPanel);
 }

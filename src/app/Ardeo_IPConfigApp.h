@@ -4,6 +4,7 @@
 #include "model/MainViewModel.h"
 #include "platform/NotificationCenter.h"
 
+#include <QCoreApplication>
 #include <QMainWindow>
 
 namespace ardeo
@@ -13,6 +14,8 @@ namespace ardeo
 /// the QApplication; the platform outlives it.
 class Ardeo_IPConfigApp final
 {
+    Q_DECLARE_TR_FUNCTIONS(ardeo::Ardeo_IPConfigApp)
+
 public:
     explicit Ardeo_IPConfigApp(Platform& platform);
     ~Ardeo_IPConfigApp();

@@ -48,7 +48,11 @@ QString activeWindow()
 }
 
 /// What the toolkit's panel shows of a folder: the files that export makes, or all, whose names say nothing.
-constexpr auto filters = "Ardeo IP Config profiles (*.profiles);;All files (*)";
+QString filters()
+{
+    return QCoreApplication::translate("ardeo::DesktopFilePanels",
+                                       "Ardeo IP Config profiles (*.profiles);;All files (*)");
+}
 
 QString documents()
 {
@@ -70,7 +74,7 @@ std::optional<QString> DesktopFilePanels::askWhereToSave(const QString& proposed
     if (panel.run())
         return panel.chosen();
     return asPlace(QFileDialog::getSaveFileName(QApplication::activeWindow(), message,
-                                                QDir(folder).filePath(proposedName), QLatin1String(filters)));
+                                                QDir(folder).filePath(proposedName), filters()));
 }
 
 std::optional<QString> DesktopFilePanels::askWhatToOpen(const QString& message)
@@ -79,8 +83,8 @@ std::optional<QString> DesktopFilePanels::askWhatToOpen(const QString& message)
     panel.portal.askWhatToOpen(activeWindow(), message);
     if (panel.run())
         return panel.chosen();
-    return asPlace(QFileDialog::getOpenFileName(QApplication::activeWindow(), message, documents(),
-                                                QLatin1String(filters)));
+    return asPlace(
+        QFileDialog::getOpenFileName(QApplication::activeWindow(), message, documents(), filters()));
 }
 
 } // namespace ardeo

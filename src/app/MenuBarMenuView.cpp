@@ -119,19 +119,19 @@ MenuBarMenuView::MenuBarMenuView(MainViewModel& model, AppDelegate& appDelegate,
         divider, [this] { return vm.selectedAdapter.value().has_value(); },
         [divider](bool shown) { divider->setVisible(shown); });
 
-    addAction(QStringLiteral("Open Ardeo IP Config"), this, [this] { m_appDelegate.showMainWindow(); });
-    addAction(QStringLiteral("Keyboard Shortcuts…"), this, [this] { openShortcuts(); });
+    addAction(tr("Open Ardeo IP Config"), this, [this] { m_appDelegate.showMainWindow(); });
+    addAction(tr("Keyboard Shortcuts…"), this, [this] { openShortcuts(); });
     addSeparator();
     Workspace& workspace = *platform.workspace;
-    addAction(QStringLiteral("Network Settings…"), this, [&workspace] { openNetworkSettings(workspace); });
-    addAction(QStringLiteral("Activity Monitor…"), this, [&workspace] { openActivityMonitor(workspace); });
+    addAction(tr("Network Settings…"), this, [&workspace] { openNetworkSettings(workspace); });
+    addAction(tr("Activity Monitor…"), this, [&workspace] { openActivityMonitor(workspace); });
     addSeparator();
     QAction* loginItem = addAction(QString(), this, [this] { vm.toggleLoginItem(); });
     bind(
         loginItem, [this] { return loginItemTitle(vm.isLoginItem.value()); },
         [loginItem](const QString& title) { loginItem->setText(title); });
     addSeparator();
-    addAction(QStringLiteral("Quit"), this, &quit);
+    addAction(tr("Quit"), this, &quit);
 }
 
 QCoro::Task<> MenuBarMenuView::openShortcuts()

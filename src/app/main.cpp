@@ -2,6 +2,7 @@
 #include "app/Ardeo_IPConfigApp.h"
 #include "app/DesktopFilePanels.h"
 #include "app/MenuBarExtra.h"
+#include "language/Language.h"
 #include "platform/linux/desktop/DesktopApplication.h"
 #include "platform/linux/desktop/DesktopWorkspace.h"
 #include "platform/linux/desktop/RemoteSession.h"
@@ -22,6 +23,17 @@ using namespace ardeo;
 
 namespace
 {
+
+/// Gives the translations of what is said before there is a window their place.
+struct Program {
+    Q_DECLARE_TR_FUNCTIONS(ardeo::Program)
+};
+
+/// Says it to whoever started the program.
+void say(std::FILE* stream, const QString& line)
+{
+    std::fprintf(stream, "%s\n", line.toUtf8().constData());
+}
 
 /// Whether an argument asks for the help or the version, which need no display.
 bool asksForText(int argc, char** argv)
@@ -63,33 +75,38 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(ARDEO_VERSION));
     QGuiApplication::setDesktopFileName(QLatin1String(applicationIdentifier));
 
+    const Language language;
+    if (!isText)
+        QGuiApplication::setLayoutDirection(language.locale().textDirection());
+
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Switches the IPv4 and DNS settings of this computer's network services."));
+        Program::tr("Switches the IPv4 and DNS settings of this computer's network services."));
     parser.addHelpOption();
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
-                                     QStringLiteral("Says the version and the system."));
-    const QCommandLineOption system(
-        QStringLiteral("system"), QStringLiteral("The system to work on: auto, networkmanager or simulated."),
-        QStringLiteral("SYSTEM"), QStringLiteral("auto"));
-    const QCommandLineOption state(QStringLiteral("state"), QStringLiteral("The simulated machine's file."),
+                                     Program::tr("Says the version and the system."));
+    const QCommandLineOption system(QStringLiteral("system"),
+                                    Program::tr("The system to work on: auto, networkmanager or simulated."),
+                                    QStringLiteral("SYSTEM"), QStringLiteral("auto"));
+    const QCommandLineOption state(QStringLiteral("state"), Program::tr("The simulated machine's file."),
                                    QStringLiteral("FILE"));
     parser.addOptions({version, system, state});
     parser.process(*application);
 
     const auto choice = systemChoiceFromText(parser.value(system));
     if (!choice) {
-        std::fputs("--system is auto, networkmanager or simulated.\n", stderr);
+        say(stderr, Program::tr("--system is auto, networkmanager or simulated."));
         return 2;
     }
     const auto file = parser.isSet(state) ? std::optional(parser.value(state)) : std::nullopt;
     Platform platform = platformFor(*choice, file, QCoreApplication::applicationFilePath());
     if (parser.isSet(version)) {
-        std::printf("ardeo-ip-config %s on %s\n", ARDEO_VERSION, platform.description.toUtf8().constData());
+        say(stdout, Program::tr("%1 on %2")
+                        .arg(QStringLiteral("ardeo-ip-config " ARDEO_VERSION), platform.description));
         return 0;
     }
     if (isText) {
-        std::fputs("An option's value that is an option's name is written with =.\n", stderr);
+        say(stderr, Program::tr("An option's value that is an option's name is written with =."));
         return 2;
     }
 
@@ -99,7 +116,7 @@ int main(int argc, char** argv)
     case DesktopApplication::Claim::handedOver:
         return 0;
     case DesktopApplication::Claim::unanswered:
-        std::fputs("Ardeo IP Config is running already, but does not answer.\n", stderr);
+        say(stderr, Program::tr("Ardeo IP Config is running already, but does not answer."));
         return 1;
     }
     platform.filePanels = std::make_unique<DesktopFilePanels>();
@@ -116,7 +133,7 @@ int main(int argc, char** argv)
     QApplication::setWindowIcon(applicationIcon());
     MenuBarMenuView menu(*app.vm, app.appDelegate, app.notifications, platform);
     const MenuBarExtra menuBarExtra(menu, app.appDelegate,
-                                    QStringLiteral("Ardeo IP Config on %1").arg(platform.description));
+                                    Program::tr("Ardeo IP Config on %1").arg(platform.description));
     app.appDelegate.hasMenuBarExtra = [&menuBarExtra] { return menuBarExtra.isPresent(); };
     const int status = QApplication::exec();
     // Every change has been saved when it was made, and an operation that still runs must not hold up the

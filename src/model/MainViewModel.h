@@ -7,6 +7,7 @@
 #include "platform/ProtocolConfiguration.h"
 #include "store/NetworkPresetStore.h"
 
+#include <QCoreApplication>
 #include <QCoroTask>
 #include <QSet>
 
@@ -23,6 +24,8 @@ namespace ardeo
 /// applyError.
 class MainViewModel final : public std::enable_shared_from_this<MainViewModel>
 {
+    Q_DECLARE_TR_FUNCTIONS(ardeo::MainViewModel)
+
     struct Key {
     };
 

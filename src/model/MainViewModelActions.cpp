@@ -191,8 +191,7 @@ QCoro::Task<> MainViewModel::guardTrial(Text serviceName, std::chrono::seconds t
         try {
             co_await configService.endTrial(false, serviceName, authorization);
             applySuccess = false;
-            tellError(QStringLiteral("Nobody confirmed the change of '%1', so it was taken back.")
-                          .arg(serviceName));
+            tellError(tr("Nobody confirmed the change of '%1', so it was taken back.").arg(serviceName));
             break;
         } catch (const DescribedError& error) { // the system may be there again in a moment
             if (attempt == retries)

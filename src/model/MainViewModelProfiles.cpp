@@ -28,8 +28,8 @@ void MainViewModel::savePreset(const Text& name)
 
 bool MainViewModel::exportPresets() const
 {
-    const auto place = m_platform.filePanels->askWhereToSave(
-        QStringLiteral("Ardeo IP Config.profiles"), QStringLiteral("Export Ardeo IP Config profiles"));
+    const auto place = m_platform.filePanels->askWhereToSave(QStringLiteral("Ardeo IP Config.profiles"),
+                                                             tr("Export Ardeo IP Config profiles"));
     if (!place)
         return true;
     if (presetStore.isUnreadable())
@@ -41,8 +41,8 @@ bool MainViewModel::exportPresets() const
 
 void MainViewModel::importPresets()
 {
-    const auto place = m_platform.filePanels->askWhatToOpen(
-        QStringLiteral("Select an Ardeo IP Config profiles file (.profiles)"));
+    const auto place =
+        m_platform.filePanels->askWhatToOpen(tr("Select an Ardeo IP Config profiles file (.profiles)"));
     if (!place)
         return;
     QFile file(*place);
@@ -53,7 +53,7 @@ void MainViewModel::importPresets()
     if (presets)
         presetStore.upsertAll(*presets);
     else
-        tellError(QStringLiteral("Could not read profiles file."));
+        tellError(tr("Could not read profiles file."));
 }
 
 void MainViewModel::toggleLoginItem()
@@ -61,7 +61,7 @@ void MainViewModel::toggleLoginItem()
     LoginItem& item = *m_platform.loginItem;
     const auto failure = isLoginItem.value() ? item.unregisterItem() : item.registerItem();
     if (failure)
-        tellError(QStringLiteral("Start at login: ") + *failure);
+        tellError(tr("Start at login: %1").arg(*failure));
     isLoginItem = item.status() == LoginItem::Status::enabled;
 }
 

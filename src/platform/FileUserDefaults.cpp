@@ -45,7 +45,7 @@ void FileUserDefaults::set(const QByteArray& data, const QString& key)
     if (!failure || m_failureTold)
         return;
     m_failureTold = true;
-    couldNotStore(QStringLiteral("Your profiles could not be saved: %1.").arg(*failure));
+    couldNotStore(tr("Your profiles could not be saved: %1.").arg(*failure));
 }
 
 std::optional<QString> FileUserDefaults::store(const QByteArray& data, const QString& key) const
@@ -58,7 +58,7 @@ std::optional<QString> FileUserDefaults::store(const QByteArray& data, const QSt
     // What is there and could not be read, for its rights or the disk's health, is worth more than its
     // successor, which was made without knowing it.
     if (isUnreadable(key))
-        return QStringLiteral("those stored before cannot be read");
+        return tr("those stored before cannot be read");
     return replaceFile(m_folder.filePath(key), data);
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/UserDefaults.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 namespace ardeo
@@ -10,6 +11,8 @@ namespace ardeo
 /// User defaults as one file per key in a folder of their own, readable for their owner alone.
 class FileUserDefaults final : public UserDefaults
 {
+    Q_DECLARE_TR_FUNCTIONS(ardeo::FileUserDefaults)
+
 public:
     explicit FileUserDefaults(const QDir& folder);
     std::optional<QByteArray> data(const QString& key) const override;

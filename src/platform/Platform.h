@@ -8,6 +8,8 @@
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 
+#include <QCoreApplication>
+
 #include <functional>
 
 namespace ardeo
@@ -20,6 +22,8 @@ struct Trouble {
     Kind kind = Kind::absent;
     /// For the user.
     QString sentence;
+
+    Q_DECLARE_TR_FUNCTIONS(ardeo::Trouble)
 };
 
 /// Everything the program needs of the operating system, and the only thing that differs between the real

@@ -37,12 +37,12 @@ SettingFault addressFault(SettingFault::Setting setting, const QString& name, co
 {
     const auto reason = [&] {
         if (holdsOnlyDots(text))
-            return QStringLiteral("%1 is missing.").arg(name);
+            return SettingFault::tr("%1 is missing.").arg(name);
         if (isIncomplete(text))
-            return QStringLiteral("%1 is not complete.").arg(name);
+            return SettingFault::tr("%1 is not complete.").arg(name);
         if (!ipv4FromText(text))
-            return QStringLiteral("%1 is not an IPv4 address.").arg(text);
-        return QStringLiteral("%1 cannot be the address of a computer.").arg(text);
+            return SettingFault::tr("%1 is not an IPv4 address.").arg(text);
+        return SettingFault::tr("%1 cannot be the address of a computer.").arg(text);
     };
     return {setting, text, reason()};
 }
@@ -50,10 +50,10 @@ SettingFault addressFault(SettingFault::Setting setting, const QString& name, co
 SettingFault maskFault(const QString& mask)
 {
     const SettingFault fault =
-        addressFault(SettingFault::Setting::subnetMask, QStringLiteral("The subnet mask"), mask);
+        addressFault(SettingFault::Setting::subnetMask, SettingFault::tr("The subnet mask"), mask);
     const bool says = holdsOnlyDots(mask) || isIncomplete(mask);
     return says ? fault
-                : SettingFault{fault.setting, mask, QStringLiteral("%1 is not a subnet mask.").arg(mask)};
+                : SettingFault{fault.setting, mask, SettingFault::tr("%1 is not a subnet mask.").arg(mask)};
 }
 
 /// What is wrong with an address in a network of that prefix; none when it is a host's.
@@ -61,16 +61,16 @@ std::optional<SettingFault> hostFault(const QString& address, int prefix)
 {
     const auto number = ipv4FromText(address);
     if (!number || !isHostAddress(*number))
-        return addressFault(SettingFault::Setting::address, QStringLiteral("The IP address"), address);
+        return addressFault(SettingFault::Setting::address, SettingFault::tr("The IP address"), address);
     // The two addresses of a network between two computers are theirs, and so is the one of a single
     // computer.
     const IPv4Number hostBits = prefix >= 31 ? 0 : ~IPv4Number(0) >> prefix;
     if (hostBits != 0 && (*number & hostBits) == 0)
         return SettingFault{SettingFault::Setting::address, address,
-                            QStringLiteral("%1 is the address of the network itself.").arg(address)};
+                            SettingFault::tr("%1 is the address of the network itself.").arg(address)};
     if (hostBits != 0 && (*number & hostBits) == hostBits)
         return SettingFault{SettingFault::Setting::address, address,
-                            QStringLiteral("%1 is the broadcast address of the network.").arg(address)};
+                            SettingFault::tr("%1 is the broadcast address of the network.").arg(address)};
     return std::nullopt;
 }
 
@@ -136,7 +136,7 @@ Checked<IPv4Configuration> checkedIPv4(const Dictionary& dictionary)
         return IPv4Configuration{};
     if (method != QVariant(methodManual))
         return SettingFault{SettingFault::Setting::method, method.toString(),
-                            QStringLiteral("The addresses are set neither by DHCP nor by hand.")};
+                            SettingFault::tr("The addresses are set neither by DHCP nor by hand.")};
     auto addresses = checkedAddresses(dictionary);
     if (!addresses)
         return *addresses.fault();
@@ -151,7 +151,7 @@ Checked<QList<IPv4Configuration::Address>> checkedAddresses(const Dictionary& di
     const auto addresses = texts(dictionary, addressesKey);
     const auto masks = texts(dictionary, subnetMasksKey);
     if (!addresses || addresses->isEmpty())
-        return addressFault(SettingFault::Setting::address, QStringLiteral("The IP address"), {});
+        return addressFault(SettingFault::Setting::address, SettingFault::tr("The IP address"), {});
     if (!masks || addresses->size() != masks->size())
         return maskFault({});
     QList<IPv4Configuration::Address> checked;
@@ -176,9 +176,9 @@ Checked<std::optional<QString>> checkedRouter(const Dictionary& dictionary)
         return std::optional<QString>();
     const auto number = ipv4FromText(gateway);
     if (!isText || !number || !isHostAddress(*number))
-        return addressFault(Setting::router, QStringLiteral("The gateway"), gateway);
+        return addressFault(Setting::router, SettingFault::tr("The gateway"), gateway);
     if (dictionary.value(addressesKey).toStringList().contains(gateway))
-        return SettingFault{Setting::router, gateway, QStringLiteral("The gateway is the address itself.")};
+        return SettingFault{Setting::router, gateway, SettingFault::tr("The gateway is the address itself.")};
     return std::optional(gateway);
 }
 
@@ -188,10 +188,10 @@ Checked<DNSConfiguration> checkedDNS(const Dictionary& dictionary)
     const auto servers = texts(dictionary, serverAddressesKey);
     const auto domains = texts(dictionary, searchDomainsKey);
     if (!servers)
-        return addressFault(Setting::dnsServer, QStringLiteral("The DNS server"), {});
+        return addressFault(Setting::dnsServer, SettingFault::tr("The DNS server"), {});
     if (!domains)
         return SettingFault{
-            Setting::searchDomain, {}, QStringLiteral("The search domains are not a list of names.")};
+            Setting::searchDomain, {}, SettingFault::tr("The search domains are not a list of names.")};
     DNSConfiguration configuration;
     for (const QString& server : *servers) {
         if (holdsOnlyDots(server))
@@ -199,10 +199,10 @@ Checked<DNSConfiguration> checkedDNS(const Dictionary& dictionary)
         const auto number = ipv4FromText(server);
         // A resolver on this very machine (127.0.0.1) is a server like any other.
         if (!number || *number == 0 || *number >> 28 >= 0xE) {
-            const QString which = &server == &servers->first() ? QStringLiteral("The preferred DNS server")
-                                                               : QStringLiteral("The alternate DNS server");
+            const QString which = &server == &servers->first() ? SettingFault::tr("The preferred DNS server")
+                                                               : SettingFault::tr("The alternate DNS server");
             return addressFault(Setting::dnsServer,
-                                servers->size() == 2 ? which : QStringLiteral("The DNS server"), server);
+                                servers->size() == 2 ? which : SettingFault::tr("The DNS server"), server);
         }
         configuration.serverAddresses.append(server);
     }
@@ -211,7 +211,7 @@ Checked<DNSConfiguration> checkedDNS(const Dictionary& dictionary)
             domain, [](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; });
         if (domain.isEmpty() || breaksTheResolverFile)
             return SettingFault{Setting::searchDomain, domain,
-                                QStringLiteral("\"%1\" is not a search domain.").arg(domain.simplified())};
+                                SettingFault::tr("\"%1\" is not a search domain.").arg(domain.simplified())};
         configuration.searchDomains.append(domain);
     }
     return configuration;
@@ -223,7 +223,7 @@ std::optional<SettingFault> faultOfServersBeside(const QString& method)
         return std::nullopt;
     return SettingFault{SettingFault::Setting::dnsServer,
                         {},
-                        QStringLiteral("A service whose IPv4 is \"%1\" takes no DNS servers.").arg(method)};
+                        SettingFault::tr("A service whose IPv4 is \"%1\" takes no DNS servers.").arg(method)};
 }
 
 } // namespace ardeo

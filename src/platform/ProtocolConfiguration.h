@@ -2,6 +2,8 @@
 
 #include "platform/SystemConfiguration.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 #include <variant>
 
@@ -30,6 +32,8 @@ struct SettingFault {
     /// What is wrong with it, as a sentence for the user.
     QString reason;
     bool operator==(const SettingFault&) const = default;
+
+    Q_DECLARE_TR_FUNCTIONS(ardeo::SettingFault)
 };
 
 /// What a check came to: the configuration that is asked for, or the first fault in it.

@@ -39,12 +39,12 @@ bool ServiceChanges::askForLease() const
 
 QString trialReason()
 {
-    return QStringLiteral("An earlier change of it awaits confirmation; confirm it or take it back first.");
+    return SettingFault::tr("An earlier change of it awaits confirmation; confirm it or take it back first.");
 }
 
 QString noTrialReason()
 {
-    return QStringLiteral("No change of it awaits confirmation.");
+    return SettingFault::tr("No change of it awaits confirmation.");
 }
 
 Dictionary changed(Dictionary settings, const Dictionary& changes)

@@ -2,6 +2,7 @@
 #include "app/MenuBarMenuView.h"
 #include "backend/Errors.h"
 #include "fakes/Fakes.h"
+#include "language/Language.h"
 #include "platform/AdvisoryLock.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "ui/background/Card.h"
@@ -12,7 +13,10 @@
 #include "ui/elements/IPAddressField.h"
 #include "ui/elements/InfoRow.h"
 #include "ui/elements/TextLabel.h"
+#include "ui/panels/ActionHeader.h"
+#include "ui/panels/AdapterPropertiesCard.h"
 #include "ui/panels/AdapterSection.h"
+#include "ui/panels/LeftPanel.h"
 #include "ui/panels/PresetList.h"
 #include "ui/sheets/ConfirmationDialog.h"
 #include "ui/sheets/NoticePanel.h"
@@ -34,12 +38,14 @@
 #include <QMenuBar>
 #include <QPaintEvent>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolTip>
+#include <QTranslator>
 #include <QWheelEvent>
 
 #include <fcntl.h>
@@ -83,6 +89,73 @@ protected:
 private:
     QWidget& m_window;
 };
+
+/// Is asked for the texts that no catalogue has. It answers with brackets around them, which show in a
+/// language of its own what was never to be translated; or it notes them down.
+class Remainder final : public QTranslator
+{
+public:
+    explicit Remainder(bool speaks) : m_speaks(speaks) { QCoreApplication::installTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* text, const char*, int) const override
+    {
+        if (!QByteArrayView(context).startsWith("ardeo::"))
+            return {};
+        if (!m_speaks)
+            untranslated.append(QString::fromUtf8(text));
+        return m_speaks ? u"[%1]"_s.arg(QString::fromUtf8(text)) : QString();
+    }
+    mutable QStringList untranslated;
+
+private:
+    bool m_speaks;
+};
+
+/// What is wrong with the texts in a window: cut, beside their place, or, where that is to be seen, neither
+/// translated nor among the data.
+QStringList faultsOfTexts(const QWidget& window, bool isMarked, const QString& data)
+{
+    QStringList faults;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible())
+            continue;
+        const QString text = widget->property("text").toString();
+        for (const QString& said : {text, widget->accessibleName(), widget->toolTip(), widget->windowTitle(),
+                                    widget->property("placeholderText").toString()}) {
+            static const QRegularExpression other(u"^(Ctrl.*|[^A-Za-z]*|Ardeo IP Config)$"_s);
+            if (isMarked && !said.contains(u'[') && !data.contains(said) && !other.match(said).hasMatch())
+                faults << u"untranslated: "_s + said;
+        }
+        if (!qobject_cast<const QLabel*>(widget) && !qobject_cast<const QAbstractButton*>(widget))
+            continue;
+        const int height = widget->hasHeightForWidth() ? widget->heightForWidth(widget->width())
+                                                       : widget->minimumSizeHint().height();
+        if (widget->width() < widget->minimumSizeHint().width() || widget->height() < height)
+            faults << u"cut: "_s + text;
+        const QRect place = widget->geometry();
+        if (place.left() < 0 || place.right() > widget->parentWidget()->rect().right())
+            faults << u"out of place: "_s + text;
+    }
+    return faults;
+}
+
+/// The same of menus: not translated, or with one access key for two entries.
+QStringList faultsOfMenu(const QList<QAction*>& entries, bool isMarked)
+{
+    QStringList faults;
+    QSet<QKeySequence> keys;
+    for (const QAction* entry : entries) {
+        const QKeySequence key = QKeySequence::mnemonic(entry->text());
+        if (!key.isEmpty() && std::exchange(keys, keys + QSet{key}).contains(key))
+            faults << u"twice: "_s + entry->text();
+        const bool isText = entry->isEnabled() && entry->isVisible() && !entry->isSeparator();
+        if (isMarked && isText && !entry->text().contains(u'['))
+            faults << u"untranslated: "_s + entry->text();
+        if (entry->menu())
+            faults << faultsOfMenu(entry->menu()->actions(), isMarked);
+    }
+    return faults;
+}
 
 /// The main window over a simulated machine of its own.
 struct Window {
@@ -1029,6 +1102,83 @@ private Q_SLOTS:
         picker->hidePopup();
         QApplication::setPalette(look::palette(ColorScheme::light));
         QVERIFY(background->testAttribute(Qt::WA_TransparentForMouseEvents));
+    }
+
+    void everyLanguageIsCompleteAndFits_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"brackets", "de-AT", "fr", "es", "ar"})
+            QTest::newRow(name) << QString::fromUtf8(name);
+    }
+    void everyLanguageIsCompleteAndFits()
+    {
+        QFETCH(const QString, name);
+        const bool isMarked = name == u"brackets"_s;
+        const Remainder remainder(isMarked);
+        const Language language({u"xx"_s, name, u"en"_s, u"de"_s});
+        QCOMPARE(language.locale().language() == QLocale::English, isMarked);
+        QGuiApplication::setLayoutDirection(language.locale().textDirection());
+        const auto direction = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+        Window w;
+        w.addProfiles();
+        w.window->resize(720, 560);
+        QFile machine(w.folder.filePath(u"machine.json"_s));
+        QVERIFY(machine.open(QIODevice::ReadOnly));
+        const QString data =
+            QString::fromUtf8(machine.readAll()) + w.folder.path() + u"Home WiFi Office 192.168.1.1..."_s;
+        const auto check = [&](const QWidget* window) {
+            settled([&] { return window->sizeHint(); });
+            QCOMPARE(faultsOfTexts(*window, isMarked, data), QStringList());
+        };
+        check(w.window);
+        MainViewModel& model = *w.model;
+        model.ipv4Mode = IPv4Mode::manual;
+        model.dnsMode = DNSMode::manual;
+        model.router = Text(u"10.0.0"_s);
+        w.click(qPrintable(ActionHeader::tr("Apply")));
+        w.finish();
+        model.applySuccess = true;
+        model.waitsFor = LockHolder{.processID = 1};
+        model.secondsToConfirm = 5;
+        check(w.window);
+        const QWidget* field = w.window->findChild<IPAddressField*>();
+        const auto left = [&](const QWidget* widget) { return widget->mapTo(w.window, QPoint()).x(); };
+        QVERIFY(left(field->findChildren<QLineEdit*>().first()) <
+                left(field->findChildren<QLineEdit*>().last()));
+        QCOMPARE(left(w.list()) > left(field), name == u"ar"_s);
+
+        const auto checkSheet = [&] {
+            check(w.window->findChild<Sheet*>());
+            w.window->findChild<Sheet*>()->reject();
+            w.settle();
+        };
+        w.click(qPrintable(LeftPanel::tr("Save Profile…")));
+        checkSheet();
+        w.list()->setCurrentIndex(w.list()->model()->index(0, 0));
+        for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Delete}) {
+            QTest::keyClick(w.list(), key);
+            checkSheet();
+        }
+        w.click(qPrintable(AdapterPropertiesCard::tr("Disable Adapter")));
+        checkSheet();
+        model.adapters = QList<AdapterInfo>();
+        model.trouble = std::nullopt;
+        check(w.window);
+
+        const auto* bar = w.window->findChild<QMenuBar*>();
+        MenuBarMenuView icon(model, w.app->appDelegate, w.app->notifications, w.platform);
+        QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+        QCoreApplication::sendEvent(w.list(), &asked);
+        for (const auto& entries : {bar->actions(), icon.actions(), w.list()->findChild<QMenu*>()->actions()})
+            QCOMPARE(faultsOfMenu(entries, isMarked), QStringList());
+        bar->actions().first()->menu()->actions().first()->trigger(); // about the program
+        w.app->openWindow(u"help"_s);
+        w.app->openWindow(u"shortcuts"_s);
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->isVisible() && !window->windowTitle().isEmpty())
+                check(window);
+        }
+        QCOMPARE(remainder.untranslated, QStringList());
     }
 };
 

@@ -1,16 +1,22 @@
 // Takes pictures of the window in its typical states, on a simulated machine made for the purpose.
 // ardeo-screenshots FOLDER [PERCENT]; needs no display with QT_QPA_PLATFORM=offscreen. QT_SCALE_FACTOR gives
-// other scales, PERCENT another size of text.
+// other scales, PERCENT another size of text, LANGUAGE another language.
 
 #include "app/Ardeo_IPConfigApp.h"
 #include "app/MenuBarMenuView.h"
+#include "language/Language.h"
 #include "platform/linux/desktop/DesktopWorkspace.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "ui/elements/ArdeoStyle.h"
 #include "ui/elements/IPAddressField.h"
 #include "ui/elements/PushButton.h"
 #include "ui/elements/Symbol.h"
+#include "ui/panels/ActionHeader.h"
+#include "ui/panels/AdapterPropertiesCard.h"
+#include "ui/panels/LeftPanel.h"
 #include "ui/panels/PresetList.h"
+#include "ui/panels/RightPanel.h"
+#include "ui/sheets/ConfirmationDialog.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -123,7 +129,7 @@ public:
         }
         return nullptr;
     }
-    void click(const char* button) { find<PushButton>(QString::fromUtf8(button))->click(); }
+    void click(const QString& button) { find<PushButton>(button)->click(); }
     void hover(int row)
     {
         auto* list = m_window.findChild<PresetList*>();
@@ -132,6 +138,7 @@ public:
                          {});
         QCoreApplication::sendEvent(list->viewport(), &move);
     }
+    IPAddressField* gateway() { return m_window.findChildren<IPAddressField*>().at(2); }
     PresetList* list() { return m_window.findChild<PresetList*>(); }
     StillClock& clock() { return *m_clock; }
 
@@ -161,12 +168,12 @@ public:
         save(menu.grab(), name);
     }
     /// The window with that identifier and title.
-    void shootWindow(const char* id, const char* title, const char* name)
+    void shootWindow(const char* id, const QString& title, const char* name)
     {
         m_app.openWindow(QLatin1String(id));
         settle();
         for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->windowTitle() == QLatin1String(title)) {
+            if (window->windowTitle() == title) {
                 save(window->grab(), name);
                 window->close();
             }
@@ -217,8 +224,8 @@ void shootAll(const QDir& folder, const QString& suffix, QSize size)
     for (int i = 0; i < static_cast<int>(menus.size()); ++i)
         stage.shootMenu(i, name(menus.at(static_cast<size_t>(i))));
     stage.shootMenuBarMenu(name("menu-bar-menu"));
-    stage.shootWindow("help", "Ardeo IP Config Help", name("help"));
-    stage.shootWindow("shortcuts", "Keyboard Shortcuts", name("shortcuts"));
+    stage.shootWindow("help", Ardeo_IPConfigApp::tr("Ardeo IP Config Help"), name("help"));
+    stage.shootWindow("shortcuts", Ardeo_IPConfigApp::tr("Keyboard Shortcuts"), name("shortcuts"));
     stage.hover(1);
     stage.shoot(name("hover"));
 
@@ -226,14 +233,14 @@ void shootAll(const QDir& folder, const QString& suffix, QSize size)
     stage.vm->ipAddress = Text(QStringLiteral("10.20.0.9"));
     stage.vm->subnetMask = Text(QStringLiteral("255.255.252.0"));
     settle();
-    stage.find<IPAddressField>(QStringLiteral("Gateway"))->octet(1)->setFocus();
+    stage.gateway()->octet(1)->setFocus();
     stage.shoot(name("manual"));
     stage.vm->ipAddress = Text(QStringLiteral("10.20..9"));
-    stage.click("Apply");
+    stage.click(ActionHeader::tr("Apply"));
     waitFor([&] { return stage.vm->applyError.value().has_value(); });
     stage.shoot(name("error"));
     stage.vm->ipAddress = Text(QStringLiteral("10.20.0.9"));
-    stage.click("Apply");
+    stage.click(ActionHeader::tr("Apply"));
     stage.shoot(name("applying"));
     while (stage.vm->isApplying.value()) {
         stage.clock().wake();
@@ -241,28 +248,28 @@ void shootAll(const QDir& folder, const QString& suffix, QSize size)
     }
     stage.shoot(name("applied"));
 
-    auto* search = stage.find<QLineEdit>(QStringLiteral("Search profiles"));
+    auto* search = stage.find<QLineEdit>(LeftPanel::tr("Search profiles"));
     search->setText(QStringLiteral("nowhere"));
     Q_EMIT search->textEdited(search->text());
     stage.shoot(name("no-match"));
-    stage.click("Clear search");
-    stage.click("Save Profile…");
+    stage.click(LeftPanel::tr("Clear search"));
+    stage.click(LeftPanel::tr("Save Profile…"));
     stage.shoot(name("save-sheet"));
-    stage.click("Cancel");
+    stage.click(ConfirmationDialog::tr("Cancel"));
     stage.list()->setCurrentIndex(stage.list()->model()->index(1, 0));
     QKeyEvent rename(QEvent::KeyPress, Qt::Key_F2, {});
     QCoreApplication::sendEvent(stage.list(), &rename);
     stage.shoot(name("rename-sheet"));
     settle(50);
-    stage.click("Cancel");
+    stage.click(ConfirmationDialog::tr("Cancel"));
     QKeyEvent remove(QEvent::KeyPress, Qt::Key_Delete, {});
     QCoreApplication::sendEvent(stage.list(), &remove);
     stage.shoot(name("delete"));
-    stage.click("Cancel");
+    stage.click(ConfirmationDialog::tr("Cancel"));
     settle(50);
-    stage.click("Disable Adapter");
+    stage.click(AdapterPropertiesCard::tr("Disable Adapter"));
     stage.shoot(name("disable"));
-    stage.click("Disable");
+    stage.click(RightPanel::tr("Disable"));
     while (stage.vm->isApplying.value()) {
         stage.clock().wake();
         settle(50);
@@ -280,6 +287,8 @@ int main(int argc, char** argv)
         std::fputs("Usage: ardeo-screenshots FOLDER [PERCENT]\n", stderr);
         return 2;
     }
+    const Language language;
+    QGuiApplication::setLayoutDirection(language.locale().textDirection());
     const QDir folder(QString::fromLocal8Bit(argv[1]));
     folder.mkpath(QStringLiteral("."));
     QFont font(QStringLiteral("Inter"));

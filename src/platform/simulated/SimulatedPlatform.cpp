@@ -70,7 +70,7 @@ Platform simulatedPlatform(const QString& machineFile, std::unique_ptr<Clock> cl
         if (system->isReadable())
             return std::nullopt;
         return Trouble{Trouble::Kind::absent,
-                       QStringLiteral("The simulated machine's file %1 cannot be read.").arg(file)};
+                       Trouble::tr("The simulated machine's file %1 cannot be read.").arg(file)};
     };
     platform.systemConfiguration = std::move(configuration);
     platform.authorization = std::make_unique<SimulatedAuthorization>(machine);
@@ -78,7 +78,7 @@ Platform simulatedPlatform(const QString& machineFile, std::unique_ptr<Clock> cl
     platform.userDefaults =
         std::make_unique<FileUserDefaults>(QDir(machine.file() + QStringLiteral(".defaults")));
     platform.clock = std::move(clock);
-    platform.description = QStringLiteral("simulated machine (%1)").arg(machine.file());
+    platform.description = Trouble::tr("simulated machine (%1)").arg(machine.file());
     return platform;
 }
 

@@ -51,8 +51,8 @@ void RadioButton::paintEvent(QPaintEvent*)
     const int indicator = look::scaled(indicatorSize);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF circle =
-        look::deviceAligned(this, QRectF(0, (height() - indicator) / 2.0, indicator, indicator));
+    const QRectF circle = look::deviceAligned(
+        this, look::mirrored(this, QRectF(0, (height() - indicator) / 2.0, indicator, indicator)));
     if (isChecked()) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(colours.accent);
@@ -66,16 +66,18 @@ void RadioButton::paintEvent(QPaintEvent*)
                                         : colours.control);
         painter.drawEllipse(circle.adjusted(0.5, 0.5, -0.5, -0.5));
     }
-    const QRectF label = QRectF(rect()).adjusted(indicator + look::scaled(symbolGap), 0, 0, 0);
+    const QRectF label =
+        look::mirrored(this, QRectF(rect()).adjusted(indicator + look::scaled(symbolGap), 0, 0, 0));
     if (hasFocus()) { // a ring in the circle, and a line below the text
         painter.setPen(QPen(colours.teal, 2));
         painter.setBrush(Qt::NoBrush);
         painter.drawEllipse(circle.adjusted(1, 1, -1, -1));
-        painter.fillRect(QRectF(label.left(), height() - 2, label.width() - 4, 1.5), colours.teal);
+        const QRectF line(indicator + look::scaled(symbolGap), height() - 2, label.width() - 4, 1.5);
+        painter.fillRect(look::mirrored(this, line), colours.teal);
     }
     painter.setPen(isEnabled() ? colours.primary : colours.tertiary);
     painter.setFont(font());
-    painter.drawText(label, Qt::AlignVCenter | Qt::AlignLeft, text());
+    drawLine(painter, this, label, text());
 }
 
 PopUpButton::PopUpButton(QWidget* parent) : QComboBox(parent)
@@ -125,13 +127,12 @@ void PopUpButton::paintEvent(QPaintEvent*)
                      underMouse() && isEnabled() ? colours.controlHovered : colours.control);
     look::strokeInside(painter, area, 6, hasFocus() ? colours.teal : colours.separator, hasFocus() ? 2 : 1);
     const int side = look::scaled(symbolSize);
-    drawSymbol(painter, QRectF(width() - 6 - side, (height() - side) / 2.0, side, side),
+    drawSymbol(painter, look::mirrored(this, QRectF(width() - 6 - side, (height() - side) / 2.0, side, side)),
                QStringLiteral("chevron.up.chevron.down"), colours.secondary);
     painter.setPen(colours.primary);
     painter.setFont(font());
     const QRect label = labelRect();
-    painter.drawText(label, Qt::AlignVCenter | Qt::AlignLeft,
-                     fontMetrics().elidedText(shownText(), Qt::ElideMiddle, label.width()));
+    drawLine(painter, this, label, fontMetrics().elidedText(shownText(), Qt::ElideMiddle, label.width()));
 }
 
 QString PopUpButton::shownText() const
@@ -141,7 +142,7 @@ QString PopUpButton::shownText() const
 
 QRect PopUpButton::labelRect() const
 {
-    return rect().adjusted(10, 0, -10 - look::scaled(symbolSize), 0);
+    return look::mirrored(this, rect().adjusted(10, 0, -10 - look::scaled(symbolSize), 0)).toRect();
 }
 
 bool PopUpButton::event(QEvent* event)
@@ -217,11 +218,12 @@ void Badge::paintEvent(QPaintEvent*)
     painter.fillPath(look::continuousRect(look::deviceAligned(this, rect()), 4),
                      look::withOpacity(teal, 0.1));
     const int symbol = look::scaled(badgeSymbolSize);
-    drawSymbol(painter, QRectF(5, (height() - symbol) / 2.0, symbol, symbol), m_symbol, teal);
+    drawSymbol(painter, look::mirrored(this, QRectF(5, (height() - symbol) / 2.0, symbol, symbol)), m_symbol,
+               teal);
     painter.setPen(teal);
     painter.setFont(font());
-    painter.drawText(QRectF(rect()).adjusted(5 + symbol + look::scaled(symbolGap), 0, 0, 0),
-                     Qt::AlignVCenter | Qt::AlignLeft, m_text);
+    const QRectF label = QRectF(rect()).adjusted(5 + symbol + look::scaled(symbolGap), 0, 0, 0);
+    drawLine(painter, this, look::mirrored(this, label), m_text);
 }
 
 SymbolView::SymbolView(const QString& symbol, int size, std::function<QColor(const Colours&)> colour,

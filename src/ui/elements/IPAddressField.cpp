@@ -43,6 +43,7 @@ IPAddressField::IPAddressField(Observed<Text>& value, const QString& placeholder
 {
     const QString name = label.endsWith(u':') ? label.chopped(1) : label;
     setAccessibleName(name);
+    setLayoutDirection(Qt::LeftToRight); // as addresses are written everywhere
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto* row = rowIn(this, 0, {8, 5, 8, 5});
     const QFont font = look::monospacedFont(TextStyle::body);
@@ -61,7 +62,7 @@ IPAddressField::IPAddressField(Observed<Text>& value, const QString& placeholder
         octet->setAlignment(Qt::AlignCenter);
         octet->setPlaceholderText(partPlaceholder(i));
         slantPlaceholder(*octet);
-        octet->setAccessibleName(QStringLiteral("%1, part %2 of 4").arg(name).arg(i + 1));
+        octet->setAccessibleName(tr("%1, part %2 of 4").arg(name).arg(i + 1));
         octet->setInputMethodHints(Qt::ImhDigitsOnly);
         octet->setAttribute(Qt::WA_MacShowFocusRect, false);
         QPalette clear;

@@ -70,7 +70,7 @@ protected:
     {
         auto* menu = new QMenu(this);
         menu->setAttribute(Qt::WA_DeleteOnClose);
-        menu->addAction(QStringLiteral("Copy"), QKeySequence::Copy, this, &ValueLabel::copy);
+        menu->addAction(InfoRow::tr("Copy"), QKeySequence::Copy, this, &ValueLabel::copy);
         const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
         menu->popup(byKey ? mapToGlobal(rect().bottomLeft()) : event->globalPos());
     }
@@ -105,6 +105,7 @@ InfoRow::InfoRow(const QString& label, const QString& value, bool monospaced, QW
 {
     auto* row = rowIn(this, 8);
     auto* text = new TextLabel(label, look::font(TextStyle::callout), Emphasis::secondary);
+    text->setWordWrap(true); // where a language needs more words
     look::followTextSize(text, [text] { text->setFixedWidth(look::scaled(labelColumnWidth)); });
     m_value = new ValueLabel(QString(),
                              monospaced ? look::monospacedFont(TextStyle::body) : look::font(TextStyle::body),

@@ -123,7 +123,7 @@ QRectF PushButton::symbolRect() const
         text().isEmpty() ? 0 : look::scaled(symbolGap) + fontMetrics().horizontalAdvance(text());
     const int side = look::scaled(symbolSize);
     const double left = (width() - side - textWidth) / 2.0;
-    return {left, (height() - side) / 2.0, side * 1.0, side * 1.0};
+    return look::mirrored(this, QRectF(left, (height() - side) / 2.0, side, side));
 }
 
 void PushButton::resizeEvent(QResizeEvent*)
@@ -182,9 +182,11 @@ void PushButton::paintEvent(QPaintEvent*)
     painter.setPen(ink);
     painter.setFont(font());
     QRectF label = area;
-    if (hasGlyph)
+    if (hasGlyph && isRightToLeft())
+        label.setRight(glyph.left() - look::scaled(symbolGap));
+    else if (hasGlyph)
         label.setLeft(glyph.right() + look::scaled(symbolGap));
-    const int room = width() - (hasGlyph ? qCeil(label.left()) : 2 * textPadding);
+    const int room = hasGlyph ? qFloor(label.width()) : width() - 2 * textPadding;
     const bool isCut = fontMetrics().horizontalAdvance(text()) > room;
     painter.drawText(label, static_cast<int>(hasGlyph ? Qt::AlignVCenter | Qt::AlignLeft : Qt::AlignCenter),
                      isCut ? fontMetrics().elidedText(text(), Qt::ElideMiddle, room) : text());

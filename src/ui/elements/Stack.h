@@ -12,7 +12,7 @@ namespace ardeo
 inline QVBoxLayout* columnIn(QWidget* widget, int spacing, const QMargins& margins = {})
 {
     auto* column = new QVBoxLayout(widget);
-    column->setContentsMargins(margins);
+    column->setContentsMargins(look::mirrored(margins));
     column->setSpacing(spacing);
     return column;
 }
@@ -21,7 +21,7 @@ inline QVBoxLayout* columnIn(QWidget* widget, int spacing, const QMargins& margi
 inline QHBoxLayout* rowIn(QWidget* widget, int spacing, const QMargins& margins = {})
 {
     auto* row = new QHBoxLayout(widget);
-    row->setContentsMargins(margins);
+    row->setContentsMargins(look::mirrored(margins));
     row->setSpacing(spacing);
     return row;
 }

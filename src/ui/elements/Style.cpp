@@ -201,6 +201,20 @@ QRectF deviceAligned(const QWidget* widget, const QRectF& rect)
     return QRectF(topLeft, bottomRight).translated(-origin) & rect;
 }
 
+QRectF mirrored(const QWidget* widget, const QRectF& part)
+{
+    return widget->isRightToLeft()
+               ? QRectF(widget->width() - part.right(), part.top(), part.width(), part.height())
+               : part;
+}
+
+QMargins mirrored(const QMargins& margins)
+{
+    return QGuiApplication::isRightToLeft()
+               ? QMargins(margins.right(), margins.top(), margins.left(), margins.bottom())
+               : margins;
+}
+
 QPainterPath continuousRect(const QRectF& rect, double radius)
 {
     // Each corner takes a little more of its sides than a circle's quarter would, and bends most in its

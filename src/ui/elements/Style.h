@@ -87,6 +87,11 @@ QColor withOpacity(QColor colour, double opacity);
 /// any scale.
 QRectF deviceAligned(const QWidget* widget, const QRectF& rect);
 
+/// Where a part of a widget is whose place is given for a language that runs from left to right.
+QRectF mirrored(const QWidget* widget, const QRectF& part);
+/// The margins of a layout that are given for such a language.
+QMargins mirrored(const QMargins& margins);
+
 /// A rounded rectangle whose corners run smoothly into its sides.
 QPainterPath continuousRect(const QRectF& rect, double radius);
 /// Strokes the shape within its bounds.

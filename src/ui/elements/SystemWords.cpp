@@ -1,5 +1,6 @@
 #include "ui/elements/SystemWords.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <array>
@@ -8,7 +9,7 @@
 namespace ardeo
 {
 
-QString inSystemWords(const char* text)
+QString inSystemWords(const QString& text)
 {
     static constexpr auto places = std::to_array<std::pair<const char*, const char*>>({
         {"{thisComputer}", words::thisComputer},
@@ -17,13 +18,15 @@ QString inSystemWords(const char* text)
         {"{settings}", words::settings},
         {"{iconPlace}", words::iconPlace},
     });
-    QString result = QString::fromUtf8(text);
+    const auto translated = [](const char* word) {
+        return QCoreApplication::translate("ardeo::words", word);
+    };
+    QString result = text;
     for (const auto& [place, word] : places)
-        result.replace(QLatin1String(place), QLatin1String(word));
-    const QLatin1String place(words::iconPlace);
+        result.replace(QLatin1String(place), translated(word));
+    const QString place = translated(words::iconPlace);
     result.replace(QStringLiteral("{apply}"), keys::text(keys::apply));
-    return result.replace(QStringLiteral("{IconPlace}"),
-                          place.first(1).toString().toUpper() + place.sliced(1));
+    return result.replace(QStringLiteral("{IconPlace}"), place.first(1).toUpper() + place.sliced(1));
 }
 
 QString keys::text(QKeyCombination keys)

@@ -6,31 +6,32 @@
 namespace ardeo
 {
 
-/// What the system that the program runs on calls things.
+/// What the system that the program runs on calls things, to be translated; translators see where each word
+/// goes.
 namespace words
 {
 
 #ifdef Q_OS_MACOS
-inline constexpr auto thisComputer = "this Mac";
-inline constexpr auto system = "macOS";
-inline constexpr auto configuration =
-    "macOS System Configuration, the same framework used by Network preferences";
-inline constexpr auto settings = "System Settings";
-inline constexpr auto iconPlace = "menu bar";
+inline constexpr auto thisComputer = QT_TRANSLATE_NOOP("ardeo::words", "this Mac");
+inline constexpr auto system = QT_TRANSLATE_NOOP("ardeo::words", "macOS");
+inline constexpr auto configuration = QT_TRANSLATE_NOOP(
+    "ardeo::words", "macOS System Configuration, the same framework used by Network preferences");
+inline constexpr auto settings = QT_TRANSLATE_NOOP("ardeo::words", "System Settings");
+inline constexpr auto iconPlace = QT_TRANSLATE_NOOP("ardeo::words", "menu bar");
 #else
-inline constexpr auto thisComputer = "this computer";
-inline constexpr auto system = "Linux";
-inline constexpr auto configuration =
-    "NetworkManager, the same service used by your desktop's network settings";
-inline constexpr auto settings = "the desktop's settings";
-inline constexpr auto iconPlace = "system tray";
+inline constexpr auto thisComputer = QT_TRANSLATE_NOOP("ardeo::words", "this computer");
+inline constexpr auto system = QT_TRANSLATE_NOOP("ardeo::words", "Linux");
+inline constexpr auto configuration = QT_TRANSLATE_NOOP(
+    "ardeo::words", "NetworkManager, the same service used by your desktop's network settings");
+inline constexpr auto settings = QT_TRANSLATE_NOOP("ardeo::words", "the desktop's settings");
+inline constexpr auto iconPlace = QT_TRANSLATE_NOOP("ardeo::words", "system tray");
 #endif
 
 } // namespace words
 
 /// The text with {thisComputer}, {system}, {configuration}, {settings} and {iconPlace} (or {IconPlace}, as it
 /// begins a sentence) in the system's words, and {apply} as its keys.
-QString inSystemWords(const char* text);
+QString inSystemWords(const QString& text);
 
 /// The keys of the program's commands.
 namespace keys

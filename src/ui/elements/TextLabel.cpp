@@ -42,10 +42,20 @@ QString toolTipText(const QString& text)
     return linesOf(text, QToolTip::font(), look::scaled(toolTipWidth)).join(u'\n');
 }
 
+void drawLine(QPainter& painter, const QWidget* widget, const QRectF& part, const QString& text)
+{
+    painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    const auto side = widget->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    painter.drawText(part, static_cast<int>(side | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine),
+                     text);
+}
+
 TextLabel::TextLabel(const QString& text, const QFont& font, Emphasis emphasis, QWidget* parent)
     : QLabel(text, parent)
 {
     setTextFormat(Qt::PlainText);
+    if (isRightToLeft()) // whatever the direction of the text itself
+        setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
     setFont(font);
     setEmphasis(emphasis);
 }
@@ -140,13 +150,15 @@ void TextLabel::paintEvent(QPaintEvent* event)
     painter.setPen(palette().color(foregroundRole()));
     const QStringList lines = shownLines(width());
     const bool isCentred = alignment().testFlag(Qt::AlignHCenter);
+    painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     int top = (height() - static_cast<int>(lines.size()) * fontMetrics().height()) / 2;
     for (const QString& line : lines) {
-        const Qt::Alignment side = isCentred              ? Qt::AlignHCenter
-                                   : line.isRightToLeft() ? Qt::AlignRight
-                                                          : Qt::AlignLeft;
+        const Qt::Alignment side = isCentred                                 ? Qt::AlignHCenter
+                                   : isRightToLeft() || line.isRightToLeft() ? Qt::AlignRight
+                                                                             : Qt::AlignLeft;
         painter.drawText(QRect(0, top, width(), fontMetrics().height()),
-                         static_cast<int>(side | Qt::AlignVCenter), isCentred ? line.trimmed() : line);
+                         static_cast<int>(side | Qt::AlignAbsolute | Qt::AlignVCenter),
+                         isCentred ? line.trimmed() : line);
         top += fontMetrics().height();
     }
 }

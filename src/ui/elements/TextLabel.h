@@ -48,6 +48,9 @@ private:
     std::optional<int> m_lines;
 };
 
+/// Draws one line of text, in its own direction, at the side of a part of the widget where lines begin.
+void drawLine(QPainter& painter, const QWidget* widget, const QRectF& part, const QString& text);
+
 /// A text as a tool tip shows it: in lines that fit on any screen.
 QString toolTipText(const QString& text);
 

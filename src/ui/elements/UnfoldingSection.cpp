@@ -127,7 +127,7 @@ void UnfoldingSection::placeContent()
     const int height = m_content->sizeHint().height();
     // While its picture moves, the content waits below what is visible: it can be typed into all the same.
     const int top = m_picture.isNull() ? m_gap : m_gap + height * 2;
-    m_content->setGeometry(m_indent, top, width() - m_indent, height);
+    m_content->setGeometry(isRightToLeft() ? 0 : m_indent, top, width() - m_indent, height);
 }
 
 void UnfoldingSection::paintEvent(QPaintEvent*)
@@ -137,7 +137,7 @@ void UnfoldingSection::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setOpacity(m_progress);
     const double slide = (1 - m_progress) * (m_pictureSize.height() + m_gap);
-    painter.drawPixmap(QPointF(m_indent, m_gap - slide), m_picture);
+    painter.drawPixmap(QPointF(isRightToLeft() ? 0 : m_indent, m_gap - slide), m_picture);
 }
 
 } // namespace ardeo

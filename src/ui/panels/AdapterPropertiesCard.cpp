@@ -65,7 +65,8 @@ QWidget* makeStatusRow(MainViewModel& vm)
         },
         [dot, text](bool active) {
             dot->setActive(active);
-            text->setText(active ? QStringLiteral("Connected") : QStringLiteral("Not connected"));
+            text->setText(active ? AdapterPropertiesCard::tr("Connected")
+                                 : AdapterPropertiesCard::tr("Not connected"));
             text->setEmphasis(active ? Emphasis::secondary : Emphasis::tertiary);
         });
     return status;
@@ -91,22 +92,26 @@ QWidget* makeLiveState(MainViewModel& vm)
         bool shownWhenEmpty;
     };
     const std::array lines{
-        Line{QStringLiteral("IP Address:"), [](auto& info) { return info.ipAddress.string(); }, true, true},
-        Line{QStringLiteral("Subnet Mask:"), [](auto& info) { return info.subnetMask.string(); }, true, true},
-        Line{QStringLiteral("Gateway:"), [](auto& info) { return info.router.string(); }, true, true},
-        Line{QStringLiteral("Preferred DNS:"), [](auto& info) { return info.primaryDNS.string(); }, true,
+        Line{AdapterPropertiesCard::tr("IP Address:"), [](auto& info) { return info.ipAddress.string(); },
+             true, true},
+        Line{AdapterPropertiesCard::tr("Subnet Mask:"), [](auto& info) { return info.subnetMask.string(); },
+             true, true},
+        Line{AdapterPropertiesCard::tr("Gateway:"), [](auto& info) { return info.router.string(); }, true,
              true},
-        Line{QStringLiteral("Alternate DNS:"), [](auto& info) { return info.alternateDNS.string(); }, true,
-             true},
-        Line{QStringLiteral("DHCP Server:"), [](auto& info) { return info.dhcpServer.string(); }, true,
-             false},
-        Line{QStringLiteral("Mode:"),
+        Line{AdapterPropertiesCard::tr("Preferred DNS:"), [](auto& info) { return info.primaryDNS.string(); },
+             true, true},
+        Line{AdapterPropertiesCard::tr("Alternate DNS:"),
+             [](auto& info) { return info.alternateDNS.string(); }, true, true},
+        Line{AdapterPropertiesCard::tr("DHCP Server:"), [](auto& info) { return info.dhcpServer.string(); },
+             true, false},
+        Line{AdapterPropertiesCard::tr("Mode:"),
              [](auto& info) {
-                 return info.ipv4Mode == IPv4Mode::manual ? QStringLiteral("Manual") : QStringLiteral("DHCP");
+                 return info.ipv4Mode == IPv4Mode::manual ? AdapterPropertiesCard::tr("Manual")
+                                                          : AdapterPropertiesCard::tr("DHCP");
              },
              false, true},
-        Line{QStringLiteral("Computer Name:"), [](auto& info) { return info.computerName.string(); }, false,
-             false},
+        Line{AdapterPropertiesCard::tr("Computer Name:"),
+             [](auto& info) { return info.computerName.string(); }, false, false},
     };
     for (const Line& line : lines) {
         auto* row = new InfoRow(line.label, QString(), line.monospaced, live);
@@ -129,8 +134,8 @@ QWidget* makeContent(MainViewModel& vm)
     auto* column = columnIn(loading, 0);
     auto* row = growing(rowIn(column, 8));
     row->addWidget(new Spinner(0.8));
-    row->addWidget(
-        new TextLabel(QStringLiteral("Loading…"), look::font(TextStyle::body), Emphasis::secondary));
+    row->addWidget(new TextLabel(AdapterPropertiesCard::tr("Loading…"), look::font(TextStyle::body),
+                                 Emphasis::secondary));
     row->addStretch();
     column->addStretch();
     QWidget* live = makeLiveState(vm);
@@ -150,7 +155,8 @@ QWidget* makeEnableButton(MainViewModel& vm, Observed<bool>& showDisableConfirm)
         return adapter && adapter->isEnabled;
     };
     bind(button, enabled, [button](bool isEnabled) {
-        button->setText(isEnabled ? QStringLiteral("Disable Adapter") : QStringLiteral("Enable Adapter"));
+        button->setText(isEnabled ? AdapterPropertiesCard::tr("Disable Adapter")
+                                  : AdapterPropertiesCard::tr("Enable Adapter"));
         button->setSymbol(isEnabled ? QStringLiteral("network.slash") : QStringLiteral("network"));
         button->setTint(isEnabled ? &Colours::red : &Colours::green);
     });
@@ -170,7 +176,7 @@ QWidget* makeEnableButton(MainViewModel& vm, Observed<bool>& showDisableConfirm)
 
 AdapterPropertiesCard::AdapterPropertiesCard(MainViewModel& vm, Observed<bool>& showDisableConfirm,
                                              QWidget* parent)
-    : Card(QStringLiteral("Current Adapter Properties"), QStringLiteral("info.circle"),
+    : Card(AdapterPropertiesCard::tr("Current Adapter Properties"), QStringLiteral("info.circle"),
            makeEnableButton(vm, showDisableConfirm), makeContent(vm), parent)
 {
 }

@@ -27,7 +27,7 @@ Choices choicesOf(const MainViewModel& vm)
     Choices choices;
     const std::optional<AdapterInfo> selected = vm.selectedAdapter.value();
     if (vm.selectedIsGone.value() && selected)
-        choices.placeholder = selected->serviceName + QStringLiteral(" (removed)");
+        choices.placeholder = AdapterSection::tr("%1 (removed)").arg(selected->serviceName);
     for (const AdapterInfo& adapter : vm.adapters.value()) {
         if (choices.selected < 0 && selected && adapter.serviceName == selected->serviceName)
             choices.selected = static_cast<int>(choices.labels.size());
@@ -40,7 +40,7 @@ QWidget* makePicker(MainViewModel& vm)
 {
     auto* frame = new QWidget;
     auto* picker = new PopUpButton;
-    picker->setAccessibleDescription(QStringLiteral("Select Adapter"));
+    picker->setAccessibleDescription(AdapterSection::tr("Select Adapter"));
     columnIn(frame, 0, {8, 0, 8, 0})->addWidget(picker);
     bind(
         picker, [&vm] { return choicesOf(vm); },
@@ -57,7 +57,7 @@ QWidget* makePicker(MainViewModel& vm)
                 picker->setItemData(i, toolTipText(label), Qt::ToolTipRole);
             }
             picker->setPlaceholderText(choices.placeholder);
-            picker->setAccessibleName(choices.placeholder.isEmpty() ? QStringLiteral("Select Adapter")
+            picker->setAccessibleName(choices.placeholder.isEmpty() ? AdapterSection::tr("Select Adapter")
                                                                     : choices.placeholder);
             picker->setCurrentIndex(choices.selected);
             picker->setEnabled(!choices.labels.isEmpty());
@@ -99,7 +99,7 @@ std::optional<QString> duplexText(const AdapterInfo& adapter, bool full)
 {
     if (!adapter.linkSpeedMbps || adapter.fullDuplex != full)
         return std::nullopt;
-    return full ? QStringLiteral("Full-duplex") : QStringLiteral("Half-duplex");
+    return full ? AdapterSection::tr("Full-duplex") : AdapterSection::tr("Half-duplex");
 }
 
 QWidget* makeSummary(MainViewModel& vm)
@@ -146,21 +146,24 @@ QString pickerLabel(const AdapterInfo& adapter)
 {
     QString label = adapter.serviceName;
     if (!adapter.isActive)
-        label += adapter.isEnabled ? QStringLiteral(" (disconnected)") : QStringLiteral(" (disabled)");
+        label = (adapter.isEnabled ? AdapterSection::tr("%1 (disconnected)")
+                                   : AdapterSection::tr("%1 (disabled)"))
+                    .arg(label);
     if (adapter.confirmBy)
-        label += QStringLiteral(" (on trial)");
+        label = AdapterSection::tr("%1 (on trial)").arg(label);
     return label;
 }
 
 QString speedText(qint64 mbps)
 {
-    return mbps >= 1000 ? QStringLiteral("%1 Gbps").arg(mbps / 1000) : QStringLiteral("%1 Mbps").arg(mbps);
+    return mbps >= 1000 ? AdapterSection::tr("%1 Gbps").arg(mbps / 1000)
+                        : AdapterSection::tr("%1 Mbps").arg(mbps);
 }
 
 AdapterSection::AdapterSection(MainViewModel& vm, QWidget* parent) : QWidget(parent)
 {
     auto* stack = columnIn(this, 0, {0, 0, 0, 10});
-    stack->addWidget(new SectionHeader(QStringLiteral("Select Adapter")));
+    stack->addWidget(new SectionHeader(AdapterSection::tr("Select Adapter")));
     stack->addWidget(makePicker(vm));
     QWidget* summary = makeSummary(vm);
     stack->addWidget(summary);

@@ -92,7 +92,7 @@ QWidget* LeftPanel::makeProfileSection()
 {
     auto* section = new QWidget;
     auto* stack = columnIn(section, 0);
-    stack->addWidget(new SectionHeader(QStringLiteral("Profiles")));
+    stack->addWidget(new SectionHeader(tr("Profiles")));
     stack->addWidget(makeSearchRow());
     stack->addWidget(makeListArea(), 1);
     stack->addWidget(look::divider(this, 0.4));
@@ -113,12 +113,12 @@ QWidget* LeftPanel::makeSearchRow()
     field->setFont(look::font(TextStyle::callout));
     look::followTextSize(row, [field, row] {
         field->setFixedHeight(field->fontMetrics().height());
-        field->setTextMargins(look::scaled(4), 0, 0, 0);
+        field->setTextMargins(look::mirrored({look::scaled(4), 0, 0, 0}));
         row->setFixedHeight(6 + field->height() + 6);
     });
     slantPlaceholder(*field);
-    field->setPlaceholderText(QStringLiteral("Search profiles"));
-    field->setAccessibleName(QStringLiteral("Search profiles"));
+    field->setPlaceholderText(tr("Search profiles"));
+    field->setAccessibleName(tr("Search profiles"));
     QPalette clear;
     clear.setColor(QPalette::Base, Qt::transparent);
     field->setPalette(clear);
@@ -145,8 +145,8 @@ QWidget* LeftPanel::makeSearchRow()
     erase->setTint(&Colours::tertiary);
     look::followTextSize(erase,
                          [erase] { erase->setFixedSize(look::scaled(eraseSize), look::scaled(eraseSize)); });
-    erase->setToolTip(QStringLiteral("Clear search"));
-    erase->setAccessibleName(QStringLiteral("Clear search"));
+    erase->setToolTip(tr("Clear search"));
+    erase->setAccessibleName(tr("Clear search"));
     connect(erase, &QPushButton::clicked, this, [this, field] {
         presetFilter = Text();
         field->setFocus();
@@ -193,7 +193,7 @@ QWidget* LeftPanel::makeListArea()
     };
     bind(area, read, [this, nothing, layers](const Shown& shown) {
         m_list->setFilter(shown.filter);
-        nothing->setText(shown.any ? QStringLiteral("No match.") : QStringLiteral("No saved profiles."));
+        nothing->setText(shown.any ? tr("No match.") : tr("No saved profiles."));
         layers->setCurrentIndex(m_list->count() > 0 ? 0 : 1);
     });
     return area;
@@ -203,8 +203,8 @@ QWidget* LeftPanel::makeBottomBar()
 {
     auto* bar = new QWidget;
     auto* row = rowIn(bar, 8, {10, 8, 10, 8});
-    auto* save = new PushButton(QStringLiteral("Save Profile…"), QStringLiteral("plus.circle.fill"),
-                                PushButton::Kind::prominent);
+    auto* save =
+        new PushButton(tr("Save Profile…"), QStringLiteral("plus.circle.fill"), PushButton::Kind::prominent);
     save->setTint(&Colours::accent);
     connect(save, &QPushButton::clicked, this, [this] {
         const auto adapter = vm.selectedAdapter.value();
@@ -224,9 +224,9 @@ QWidget* LeftPanel::makeBottomBar()
         row->addWidget(button);
         return button;
     };
-    auto* importButton = addFileButton("square.and.arrow.down", QStringLiteral("Import profiles from file"));
+    auto* importButton = addFileButton("square.and.arrow.down", tr("Import profiles from file"));
     connect(importButton, &QPushButton::clicked, this, [this] { vm.importPresets(); });
-    auto* exportButton = addFileButton("square.and.arrow.up", QStringLiteral("Export profiles to file"));
+    auto* exportButton = addFileButton("square.and.arrow.up", tr("Export profiles to file"));
     connect(exportButton, &QPushButton::clicked, this, [this] { vm.exportPresets(); });
     bind(
         exportButton, [this] { return !presets().isEmpty(); },
@@ -266,9 +266,8 @@ void LeftPanel::followSheets()
         [this](const std::optional<NetworkPreset>& preset) {
             if (!preset)
                 return;
-            auto* confirmation =
-                new ConfirmationDialog(QStringLiteral("Delete Preset"), QString(),
-                                       QStringLiteral("Delete \"%1\"").arg(preset->name), window());
+            auto* confirmation = new ConfirmationDialog(tr("Delete Preset"), QString(),
+                                                        tr("Delete \"%1\"").arg(preset->name), window());
             connect(confirmation, &QDialog::finished, this, [this, id = preset->id](int result) {
                 presetToDelete = std::nullopt;
                 if (result == QDialog::Accepted)

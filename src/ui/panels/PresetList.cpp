@@ -100,7 +100,7 @@ PresetList::PresetList(NetworkPresetStore& store, Actions actions, QWidget* pare
     setModel(m_rows);
     setItemDelegate(new PresetRowDelegate(
         this, [this](int row) -> const NetworkPreset& { return m_rows->preset(row); }, this));
-    setAccessibleName(QStringLiteral("Profiles"));
+    setAccessibleName(PresetList::tr("Profiles"));
     setFrameShape(NoFrame);
     setUniformItemSizes(true);
     setSelectionMode(NoSelection);
@@ -274,11 +274,11 @@ void PresetList::openMenu(const QModelIndex& index, const QPoint& globalPosition
         menu->addAction(symbolIcon(QLatin1String(symbol), colour), text, this,
                         [action, preset] { action(*preset); });
     };
-    add(QStringLiteral("Load Profile"), "arrow.down.circle", colours.primary, m_actions.load);
+    add(PresetList::tr("Load Profile"), "arrow.down.circle", colours.primary, m_actions.load);
     menu->addSeparator();
-    add(QStringLiteral("Rename…"), "pencil", colours.primary, m_actions.rename);
+    add(PresetList::tr("Rename…"), "pencil", colours.primary, m_actions.rename);
     menu->addSeparator();
-    add(QStringLiteral("Delete…"), "trash", colours.red, m_actions.remove);
+    add(PresetList::tr("Delete…"), "trash", colours.red, m_actions.remove);
     menu->popup(globalPosition);
 }
 

@@ -35,16 +35,17 @@ QFont summaryFont()
 
 int loadWidth()
 {
-    return QFontMetrics(loadFont()).horizontalAdvance(QStringLiteral("Load"));
+    return QFontMetrics(loadFont()).horizontalAdvance(PresetList::tr("Load"));
 }
 
-void drawLine(QPainter& painter, const QRect& rect, const QFont& font, const QColor& colour,
-              const QString& text)
+/// The text as one line at the top of the rectangle.
+void drawText(QPainter& painter, const QWidget* list, const QRect& rect, const QFont& font,
+              const QColor& colour, const QString& text)
 {
     painter.setFont(font);
     painter.setPen(colour);
     const QString line = painter.fontMetrics().elidedText(text.simplified(), Qt::ElideRight, rect.width());
-    painter.drawText(rect, static_cast<int>(Qt::AlignTop | Qt::AlignLeft | Qt::TextSingleLine), line);
+    drawLine(painter, list, QRect(rect.topLeft(), QSize(rect.width(), painter.fontMetrics().height())), line);
 }
 
 } // namespace
@@ -52,7 +53,7 @@ void drawLine(QPainter& painter, const QRect& rect, const QFont& font, const QCo
 QString presetSummary(const NetworkPreset& preset)
 {
     const QString mode =
-        preset.ipv4Mode == IPv4Mode::manual ? QStringLiteral("Manual") : QStringLiteral("DHCP");
+        preset.ipv4Mode == IPv4Mode::manual ? PresetList::tr("Manual") : PresetList::tr("DHCP");
     return mode + QStringLiteral(" · ") + preset.serviceName;
 }
 
@@ -84,22 +85,27 @@ void PresetRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     if (m_list->hasFocus() && m_list->currentIndex() == index)
         look::strokeInside(*painter, ground, 6, colours.teal, 2);
 
+    // Laid out from left to right, and mirrored where the language runs the other way.
+    const auto placed = [this, row](const QRect& part) {
+        return QStyle::visualRect(m_list->layoutDirection(), row, part);
+    };
     QRect content = row.adjusted(rowPadding, rowPadding, -rowPadding, -rowPadding);
     if (highlight > 0) {
-        const QString load = QStringLiteral("Load");
+        const QString load = PresetList::tr("Load");
         painter->setFont(loadFont());
         const int width = loadWidth();
         painter->setPen(look::withOpacity(colours.teal, highlight));
-        painter->drawText(content.translated(static_cast<int>((1 - highlight) * width), 0),
+        painter->drawText(placed(content.translated(static_cast<int>((1 - highlight) * width), 0)),
                           Qt::AlignRight | Qt::AlignVCenter, load);
         content.setRight(content.right() - width - 4);
     }
-    drawLine(*painter, content, nameFont(), colours.primary, preset.name);
+    drawText(*painter, m_list, placed(content), nameFont(), colours.primary, preset.name);
     content.setTop(content.top() + QFontMetrics(nameFont()).height() + lineGap);
-    drawLine(*painter, content, summaryFont(), colours.secondary, presetSummary(preset));
+    drawText(*painter, m_list, placed(content), summaryFont(), colours.secondary, presetSummary(preset));
     if (index.row() + 1 < index.model()->rowCount()) {
         const QRect line(option.rect.left() + 10, option.rect.bottom(), option.rect.width() - 10, 1);
-        painter->fillRect(line, look::withOpacity(colours.separator, colours.separator.alphaF() * 0.4));
+        painter->fillRect(placed(line),
+                          look::withOpacity(colours.separator, colours.separator.alphaF() * 0.4));
     }
     painter->restore();
 }

@@ -27,14 +27,14 @@ constexpr int fadeMilliseconds = 200;
 
 /// One radio button per mode, bound to the mode.
 template <typename Mode>
-QWidget* radioGroup(Observed<Mode>& mode, const QString& name, const std::array<const char*, 2>& texts)
+QWidget* radioGroup(Observed<Mode>& mode, const QString& name, const std::array<QString, 2>& texts)
 {
     auto* group = new QWidget;
     group->setAccessibleName(name);
     auto* stack = columnIn(group, 4);
     auto* buttons = new QButtonGroup(group);
     for (const Mode choice : ModeTexts<Mode>::allCases) {
-        auto* button = new RadioButton(QLatin1String(texts.at(static_cast<size_t>(choice))));
+        auto* button = new RadioButton(texts.at(static_cast<size_t>(choice)));
         buttons->addButton(button, static_cast<int>(choice));
         stack->addWidget(button);
     }
@@ -137,16 +137,17 @@ QWidget* makeIPv4Section(MainViewModel& vm)
 {
     auto* section = new QWidget;
     auto* stack = columnIn(section, 0);
-    QWidget* choice = radioGroup(vm.ipv4Mode, QStringLiteral("IP Address"),
-                                 {"Automatically Set IP Address", "Manually Set IP Address"});
+    QWidget* choice = radioGroup(vm.ipv4Mode, ProfilePropertiesCard::tr("IP Address"),
+                                 {ProfilePropertiesCard::tr("Automatically Set IP Address"),
+                                  ProfilePropertiesCard::tr("Manually Set IP Address")});
     stack->addWidget(choice);
     stack->addWidget(addressRows(vm, choice, [&vm] { return vm.ipv4Mode.value() == IPv4Mode::manual; },
-                                 {{QStringLiteral("IP Address:"), vm.ipAddress,
+                                 {{ProfilePropertiesCard::tr("IP Address:"), vm.ipAddress,
                                    QStringLiteral("192.168.1.100"), SettingFault::Setting::address},
-                                  {QStringLiteral("Subnet Mask:"), vm.subnetMask,
+                                  {ProfilePropertiesCard::tr("Subnet Mask:"), vm.subnetMask,
                                    QStringLiteral("255.255.255.0"), SettingFault::Setting::subnetMask},
-                                  {QStringLiteral("Gateway:"), vm.router, QStringLiteral("192.168.1.1"),
-                                   SettingFault::Setting::router}}));
+                                  {ProfilePropertiesCard::tr("Gateway:"), vm.router,
+                                   QStringLiteral("192.168.1.1"), SettingFault::Setting::router}}));
     return section;
 }
 
@@ -154,13 +155,14 @@ QWidget* makeDNSSection(MainViewModel& vm)
 {
     auto* section = new QWidget;
     auto* stack = columnIn(section, 0);
-    QWidget* choice = radioGroup(vm.dnsMode, QStringLiteral("DNS"),
-                                 {"Automatically Set DNS Address", "Manually Set DNS Address"});
+    QWidget* choice = radioGroup(vm.dnsMode, ProfilePropertiesCard::tr("DNS"),
+                                 {ProfilePropertiesCard::tr("Automatically Set DNS Address"),
+                                  ProfilePropertiesCard::tr("Manually Set DNS Address")});
     stack->addWidget(choice);
     stack->addWidget(addressRows(vm, choice, [&vm] { return vm.dnsMode.value() == DNSMode::manual; },
-                                 {{QStringLiteral("Preferred DNS:"), vm.primaryDNS, QStringLiteral("8.8.8.8"),
-                                   SettingFault::Setting::dnsServer},
-                                  {QStringLiteral("Alternate DNS:"), vm.alternateDNS,
+                                 {{ProfilePropertiesCard::tr("Preferred DNS:"), vm.primaryDNS,
+                                   QStringLiteral("8.8.8.8"), SettingFault::Setting::dnsServer},
+                                  {ProfilePropertiesCard::tr("Alternate DNS:"), vm.alternateDNS,
                                    QStringLiteral("8.8.4.4"), SettingFault::Setting::dnsServer}}));
     return section;
 }
@@ -170,7 +172,7 @@ QWidget* makeTrialRow(MainViewModel& vm)
 {
     auto* trial = new QWidget;
     auto* row = rowIn(trial, 10);
-    auto* keep = new PushButton(QStringLiteral("Keep"), QString(), PushButton::Kind::bordered);
+    auto* keep = new PushButton(ProfilePropertiesCard::tr("Keep"), QString(), PushButton::Kind::bordered);
     QObject::connect(keep, &QPushButton::clicked, keep, [&vm] { vm.endTrial(true); });
     bind(
         keep, [&vm] { return !vm.isApplying.value(); }, [keep](bool possible) { keep->setUsable(possible); });
@@ -182,7 +184,8 @@ QWidget* makeTrialRow(MainViewModel& vm)
         trial, [&vm] { return vm.secondsToConfirm.value(); },
         [trial, left](std::optional<qint64> seconds) {
             trial->setVisible(seconds.has_value());
-            left->setText(QStringLiteral("The change is taken back in %1 s.").arg(seconds.value_or(0)));
+            left->setText(ProfilePropertiesCard::tr("The change is taken back in %n s.", nullptr,
+                                                    static_cast<int>(seconds.value_or(0))));
         });
     return trial;
 }
@@ -193,15 +196,15 @@ QWidget* makeFeedback(MainViewModel& vm)
     auto* stack = columnIn(feedback, 6);
     auto* row = rowIn(stack, 10);
 
-    auto* revert = new PushButton(QStringLiteral("Revert"), QString(), PushButton::Kind::bordered);
+    auto* revert = new PushButton(ProfilePropertiesCard::tr("Revert"), QString(), PushButton::Kind::bordered);
     QObject::connect(revert, &QPushButton::clicked, revert, [&vm] { vm.revertForm(); });
     const auto hasChanges = [&vm] { return vm.hasChanges(); };
     bind(revert, hasChanges, [revert](bool changed) { revert->setUsable(changed); });
     row->addWidget(revert);
 
-    auto* renew = new PushButton(QStringLiteral("Renew DHCP"), QStringLiteral("arrow.triangle.2.circlepath"),
-                                 PushButton::Kind::bordered);
-    renew->setToolTip(QStringLiteral("Force a new DHCP lease"));
+    auto* renew = new PushButton(ProfilePropertiesCard::tr("Renew DHCP"),
+                                 QStringLiteral("arrow.triangle.2.circlepath"), PushButton::Kind::bordered);
+    renew->setToolTip(ProfilePropertiesCard::tr("Force a new DHCP lease"));
     QObject::connect(renew, &QPushButton::clicked, renew, [&vm] { vm.renewDHCPLease(); });
     bind(
         renew,
@@ -217,7 +220,7 @@ QWidget* makeFeedback(MainViewModel& vm)
     auto* applied = new IconLabel(
         QStringLiteral("checkmark.circle.fill"), [](const Colours& colours) { return colours.green; }, false,
         feedback);
-    applied->setText(QStringLiteral("Applied"));
+    applied->setText(ProfilePropertiesCard::tr("Applied"));
     bind(
         applied, [&vm] { return vm.applySuccess.value(); },
         [applied](bool success) { fade(applied, success); });
@@ -269,8 +272,8 @@ QWidget* makeForm(MainViewModel& vm)
 } // namespace
 
 ProfilePropertiesCard::ProfilePropertiesCard(MainViewModel& vm, QWidget* parent)
-    : Card(QStringLiteral("Set Profile Properties"), QStringLiteral("slider.horizontal.3"), nullptr,
-           makeForm(vm), parent)
+    : Card(ProfilePropertiesCard::tr("Set Profile Properties"), QStringLiteral("slider.horizontal.3"),
+           nullptr, makeForm(vm), parent)
     // A mode may change in the middle of filling the form, whose mask comes later: look at it when that is
     // over.
     , m_maskDefault(vm.ipv4Mode.addNotifier([this, &vm] {

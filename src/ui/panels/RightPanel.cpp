@@ -36,12 +36,13 @@ QWidget* makeEmptyState(MainViewModel& vm)
     stack->addWidget(new SymbolView(QStringLiteral("network.slash"), 48,
                                     [](const Colours& colours) { return colours.secondary; }),
                      0, Qt::AlignHCenter);
-    stack->addWidget(new TextLabel(QStringLiteral("No Network Services"),
+    stack->addWidget(new TextLabel(RightPanel::tr("No Network Services"),
                                    look::font(TextStyle::title2, QFont::Bold), Emphasis::primary),
                      0, Qt::AlignHCenter);
-    stack->addWidget(new TextLabel(inSystemWords("No network services found on {thisComputer}."),
-                                   look::font(TextStyle::subheadline), Emphasis::secondary),
-                     0, Qt::AlignHCenter);
+    stack->addWidget(
+        new TextLabel(inSystemWords(RightPanel::tr("No network services found on {thisComputer}.")),
+                      look::font(TextStyle::subheadline), Emphasis::secondary),
+        0, Qt::AlignHCenter);
     auto* trouble = new TextLabel(QString(), look::font(TextStyle::subheadline), Emphasis::secondary);
     trouble->setAlignment(Qt::AlignCenter);
     trouble->setWrapped();
@@ -56,9 +57,9 @@ QWidget* makeEmptyState(MainViewModel& vm)
     return view;
 }
 
-QString nameOf(const std::optional<AdapterInfo>& adapter, const char* otherwise)
+QString nameOf(const std::optional<AdapterInfo>& adapter, const QString& otherwise)
 {
-    return adapter ? adapter->serviceName.string() : QLatin1String(otherwise);
+    return adapter ? adapter->serviceName.string() : otherwise;
 }
 
 } // namespace
@@ -137,11 +138,10 @@ void RightPanel::followDisableConfirm()
             if (!shown)
                 return;
             const auto adapter = vm.selectedAdapter.value();
-            auto* confirmation =
-                new ConfirmationDialog(QStringLiteral("Disable %1?").arg(nameOf(adapter, "Adapter")),
-                                       QStringLiteral("This will disconnect %1 from the network.")
-                                           .arg(nameOf(adapter, "the adapter")),
-                                       QStringLiteral("Disable"), window());
+            auto* confirmation = new ConfirmationDialog(
+                tr("Disable %1?").arg(nameOf(adapter, tr("Adapter"))),
+                tr("This will disconnect %1 from the network.").arg(nameOf(adapter, tr("the adapter"))),
+                tr("Disable"), window());
             connect(confirmation, &QDialog::finished, this, [this](int result) {
                 showDisableConfirm = false;
                 if (result == QDialog::Accepted)

@@ -33,7 +33,7 @@ ConfirmationDialog::ConfirmationDialog(const QString& title, const QString& mess
 
     auto* go = new PushButton(destructive, QString(), PushButton::Kind::bordered);
     go->setTint(&Colours::red);
-    auto* cancel = new PushButton(QStringLiteral("Cancel"), QString(), PushButton::Kind::bordered);
+    auto* cancel = new PushButton(tr("Cancel"), QString(), PushButton::Kind::bordered);
     cancel->setDefault(true);
     for (PushButton* button : {go, cancel}) {
         button->setControlSize(PushButton::Size::large);

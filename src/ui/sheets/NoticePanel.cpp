@@ -31,7 +31,7 @@ NoticePanel::NoticePanel(const QString& title, const QString& text, QWidget* par
     sentence->setWrapped();
     stack->addWidget(sentence);
     stack->addSpacing(4);
-    auto* close = new PushButton(QStringLiteral("OK"), QString(), PushButton::Kind::prominent);
+    auto* close = new PushButton(tr("OK"), QString(), PushButton::Kind::prominent);
     close->setTint(&Colours::tealFill);
     close->setControlSize(PushButton::Size::large);
     close->setDefault(true);

@@ -37,8 +37,8 @@ ProfileNameSheet::ProfileNameSheet(Observed<Text>& name, const QString& title, c
                      Qt::AlignHCenter);
 
     auto* field = new TextField;
-    field->setPlaceholderText(QStringLiteral("Profile name"));
-    field->setAccessibleName(QStringLiteral("Profile name"));
+    field->setPlaceholderText(tr("Profile name"));
+    field->setAccessibleName(tr("Profile name"));
     stack->addWidget(field, 0, Qt::AlignHCenter);
     connect(field, &QLineEdit::textEdited, this, [&name](const QString& text) { name = Text(text); });
     bind(
@@ -50,7 +50,7 @@ ProfileNameSheet::ProfileNameSheet(Observed<Text>& name, const QString& title, c
     field->selectAll();
 
     auto* buttons = rowIn(stack, 12);
-    auto* cancel = new PushButton(QStringLiteral("Cancel"), QString(), PushButton::Kind::bordered);
+    auto* cancel = new PushButton(tr("Cancel"), QString(), PushButton::Kind::bordered);
     auto* save = new PushButton(confirm, QString(), PushButton::Kind::prominent);
     save->setTint(&Colours::tealFill);
     save->setDefault(true);

@@ -5,8 +5,8 @@ namespace ardeo
 
 RenamePresetSheet::RenamePresetSheet(Observed<Text>& name, std::function<void()> onSave,
                                      std::function<void()> onCancel, QWidget* parent)
-    : ProfileNameSheet(name, QStringLiteral("Rename Profile"), QStringLiteral("Rename"), std::move(onSave),
-                       std::move(onCancel), parent)
+    : ProfileNameSheet(name, tr("Rename Profile"), tr("Rename"), std::move(onSave), std::move(onCancel),
+                       parent)
 {
 }
 

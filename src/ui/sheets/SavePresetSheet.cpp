@@ -6,8 +6,8 @@ namespace ardeo
 SavePresetSheet::SavePresetSheet(Observed<Text>& name, std::function<void(Text)> onSave,
                                  std::function<void()> onCancel, QWidget* parent)
     : ProfileNameSheet(
-          name, QStringLiteral("Save Profile"), QStringLiteral("Save"),
-          [&name, onSave = std::move(onSave)] { onSave(name.value()); }, std::move(onCancel), parent)
+          name, tr("Save Profile"), tr("Save"), [&name, onSave = std::move(onSave)] { onSave(name.value()); },
+          std::move(onCancel), parent)
 {
 }
 

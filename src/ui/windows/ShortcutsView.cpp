@@ -52,8 +52,9 @@ QWidget* makeRow(const Shortcut& shortcut)
 {
     auto* row = new QWidget;
     auto* line = rowIn(row, -1, {12, 8, 12, 8});
-    line->addWidget(new TextLabel(shortcut.label, look::font(TextStyle::callout), Emphasis::primary));
-    line->addStretch();
+    auto* label = new TextLabel(shortcut.label, look::font(TextStyle::callout), Emphasis::primary);
+    label->setWordWrap(true);
+    line->addWidget(label, 1);
     line->addWidget(new KeyLabel(shortcut.key));
     return row;
 }
@@ -91,7 +92,7 @@ void addHeader(QVBoxLayout* stack)
     auto* header = growing(rowIn(stack, 12));
     header->setContentsMargins(0, 0, 0, 4);
     header->addWidget(new SymbolView(QStringLiteral("keyboard"), 22, teal));
-    header->addWidget(new TextLabel(QStringLiteral("Keyboard Shortcuts"),
+    header->addWidget(new TextLabel(ShortcutsView::tr("Keyboard Shortcuts"),
                                     look::font(TextStyle::title2, QFont::Bold), Emphasis::primary),
                       1);
 }
@@ -101,25 +102,25 @@ void addHeader(QVBoxLayout* stack)
 std::vector<ShortcutSection> shortcutSections()
 {
     return {
-        {QStringLiteral("Configuration"),
+        {ShortcutsView::tr("Configuration"),
          QStringLiteral("slider.horizontal.3"),
-         {{keys::spacedText(keys::apply), QStringLiteral("Apply configuration")},
-          {keys::spacedText(keys::refresh), QStringLiteral("Refresh adapter list")}}},
-        {QStringLiteral("Profiles"),
+         {{keys::spacedText(keys::apply), ShortcutsView::tr("Apply configuration")},
+          {keys::spacedText(keys::refresh), ShortcutsView::tr("Refresh adapter list")}}},
+        {ShortcutsView::tr("Profiles"),
          QStringLiteral("list.bullet"),
-         {{keys::spacedText(keys::importProfiles), QStringLiteral("Import profiles from file")},
-          {keys::spacedText(keys::exportProfiles), QStringLiteral("Export profiles to file")}}},
-        {QStringLiteral("Adapter"),
+         {{keys::spacedText(keys::importProfiles), ShortcutsView::tr("Import profiles from file")},
+          {keys::spacedText(keys::exportProfiles), ShortcutsView::tr("Export profiles to file")}}},
+        {ShortcutsView::tr("Adapter"),
          QStringLiteral("network"),
-         {{QStringLiteral("Tools → Renew DHCP"), QStringLiteral("Renew DHCP lease")},
-          {QStringLiteral("Tools → Enable Adapter"), QStringLiteral("Enable the selected adapter")},
-          {QStringLiteral("Tools → Disable Adapter"), QStringLiteral("Disable the selected adapter")}}},
-        {QStringLiteral("Navigation"),
+         {{ShortcutsView::tr("Tools → Renew DHCP"), ShortcutsView::tr("Renew DHCP lease")},
+          {ShortcutsView::tr("Tools → Enable Adapter"), ShortcutsView::tr("Enable the selected adapter")},
+          {ShortcutsView::tr("Tools → Disable Adapter"), ShortcutsView::tr("Disable the selected adapter")}}},
+        {ShortcutsView::tr("Navigation"),
          QStringLiteral("macwindow"),
-         {{QStringLiteral("Tools → Network Settings"), QStringLiteral("Open Network Settings")},
-          {QStringLiteral("Tools → Activity Monitor"), QStringLiteral("Open Activity Monitor")},
-          {keys::spacedText(keys::hide), QStringLiteral("Hide Ardeo IP Config")},
-          {keys::spacedText(keys::quit), QStringLiteral("Quit Ardeo IP Config")}}},
+         {{ShortcutsView::tr("Tools → Network Settings"), ShortcutsView::tr("Open Network Settings")},
+          {ShortcutsView::tr("Tools → Activity Monitor"), ShortcutsView::tr("Open Activity Monitor")},
+          {keys::spacedText(keys::hide), ShortcutsView::tr("Hide Ardeo IP Config")},
+          {keys::spacedText(keys::quit), ShortcutsView::tr("Quit Ardeo IP Config")}}},
     };
 }
 

@@ -1,4 +1,5 @@
 #include "platform/ConfigurationKeys.h"
+#include "platform/ProtocolConfiguration.h"
 #include "platform/linux/networkmanager/NetworkManagerError.h"
 #include "platform/linux/networkmanager/NetworkManagerPreferences.h"
 #include "platform/linux/networkmanager/NetworkManagerServices.h"
@@ -51,7 +52,7 @@ SystemStatus NetworkManagerPreferences::putOnTrial(const Profile& profile, NMCon
         g_variant_builder_add(&devices, "o", nm_object_get_path(NM_OBJECT(device)));
     const GVariantRef paths(g_variant_ref_sink(g_variant_builder_end(&devices)));
     if (affected.empty()) {
-        m_session->refuse(QStringLiteral("Without a device it could not be taken back by itself."));
+        m_session->refuse(SettingFault::tr("Without a device it could not be taken back by itself."));
         return SystemStatus::failed;
     }
     const SystemStatus right = checkRight(checkpointAction);

@@ -20,9 +20,9 @@ std::optional<Trouble> troubleOf(DaemonPresence presence)
     case DaemonPresence::answers:
         return std::nullopt;
     case DaemonPresence::absent:
-        return Trouble{Trouble::Kind::absent, QStringLiteral("NetworkManager is not running.")};
+        return Trouble{Trouble::Kind::absent, Trouble::tr("NetworkManager is not running.")};
     case DaemonPresence::silent:
-        return Trouble{Trouble::Kind::silent, QStringLiteral("NetworkManager does not answer.")};
+        return Trouble{Trouble::Kind::silent, Trouble::tr("NetworkManager does not answer.")};
     }
     return std::nullopt;
 }

@@ -15,7 +15,7 @@ std::optional<Trouble> withAdvice(std::optional<Trouble> trouble)
 {
     if (trouble && trouble->kind == Trouble::Kind::absent)
         trouble->sentence =
-            QStringLiteral("NetworkManager is not running; --system=simulated works without it.");
+            Trouble::tr("NetworkManager is not running; --system=simulated works without it.");
     return trouble;
 }
 
