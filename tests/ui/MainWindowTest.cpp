@@ -116,7 +116,10 @@ private:
 QStringList faultsOfTexts(const QWidget& window, bool isMarked, const QString& data)
 {
     QStringList faults;
-    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    QList<const QWidget*> widgets{&window};
+    for (const QWidget* widget : window.findChildren<QWidget*>())
+        widgets << widget;
+    for (const QWidget* widget : widgets) {
         if (!widget->isVisible())
             continue;
         const QString text = widget->property("text").toString();
@@ -1171,6 +1174,7 @@ private Q_SLOTS:
         QCoreApplication::sendEvent(w.list(), &asked);
         for (const auto& entries : {bar->actions(), icon.actions(), w.list()->findChild<QMenu*>()->actions()})
             QCOMPARE(faultsOfMenu(entries, isMarked), QStringList());
+        delete w.list()->findChild<QMenu*>();
         bar->actions().first()->menu()->actions().first()->trigger(); // about the program
         w.app->openWindow(u"help"_s);
         w.app->openWindow(u"shortcuts"_s);
