@@ -48,11 +48,11 @@
     </message>
     <message>
         <source>Preferred DNS:</source>
-        <translation>DNS المفضل:</translation>
+        <translation>‏DNS المفضل:</translation>
     </message>
     <message>
         <source>Alternate DNS:</source>
-        <translation>DNS البديل:</translation>
+        <translation>‏DNS البديل:</translation>
     </message>
     <message>
         <source>DHCP Server:</source>
@@ -123,11 +123,11 @@
     </message>
     <message>
         <source>%1 Gbps</source>
-        <translation>⁨%1⁩ غيغابت/ث</translation>
+        <translation>%1 غيغابت/ث</translation>
     </message>
     <message>
         <source>%1 Mbps</source>
-        <translation>⁨%1⁩ ميغابت/ث</translation>
+        <translation>%1 ميغابت/ث</translation>
     </message>
 </context>
 <context>
@@ -173,7 +173,7 @@ Works on: %2</source>
     <name>ardeo::ConfigError</name>
     <message>
         <source>Cannot acquire preferences lock (SC %1).</source>
-        <translation>تعذّر الحصول على قفل التفضيلات (SC ⁨%1⁩).</translation>
+        <translation>تعذّر الحصول على قفل التفضيلات (⁨SC %1⁩).</translation>
     </message>
     <message>
         <source>Service &apos;%1&apos; not found.</source>
@@ -185,11 +185,11 @@ Works on: %2</source>
     </message>
     <message>
         <source>Cannot save changes (SC %1).</source>
-        <translation>تعذّر حفظ التغييرات (SC ⁨%1⁩).</translation>
+        <translation>تعذّر حفظ التغييرات (⁨SC %1⁩).</translation>
     </message>
     <message>
         <source>Cannot apply changes (SC %1).</source>
-        <translation>تعذّر تطبيق التغييرات (SC ⁨%1⁩).</translation>
+        <translation>تعذّر تطبيق التغييرات (⁨SC %1⁩).</translation>
     </message>
     <message>
         <source>Cannot open system network preferences.</source>
@@ -248,11 +248,11 @@ Settings are applied instantly through {configuration}. No restarts required.</s
     </message>
     <message>
         <source>Wi-Fi, Ethernet, Thunderbolt, VPN</source>
-        <translation>Wi-Fi وEthernet وThunderbolt وVPN</translation>
+        <translation>‏Wi-Fi وEthernet وThunderbolt وVPN</translation>
     </message>
     <message>
         <source>DHCP / Static IP</source>
-        <translation>DHCP / عنوان IP ثابت</translation>
+        <translation>‏DHCP / عنوان IP ثابت</translation>
     </message>
     <message>
         <source>Switch modes with one click</source>
@@ -678,11 +678,11 @@ Settings are applied instantly through {configuration}. No restarts required.</s
     </message>
     <message>
         <source>Preferred DNS:</source>
-        <translation>DNS المفضل:</translation>
+        <translation>‏DNS المفضل:</translation>
     </message>
     <message>
         <source>Alternate DNS:</source>
-        <translation>DNS البديل:</translation>
+        <translation>‏DNS البديل:</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -756,7 +756,7 @@ Settings are applied instantly through {configuration}. No restarts required.</s
     </message>
     <message>
         <source>Ardeo IP Config on %1</source>
-        <translation>Ardeo IP Config على ⁨%1⁩</translation>
+        <translation>‏Ardeo IP Config على ⁨%1⁩</translation>
     </message>
 </context>
 <context>
@@ -1017,7 +1017,7 @@ Settings are applied instantly through {configuration}. No restarts required.</s
     </message>
     <message>
         <source>macOS System Configuration, the same framework used by Network preferences</source>
-        <translation>macOS System Configuration، الإطار نفسه الذي تستخدمه تفضيلات الشبكة</translation>
+        <translation>‏macOS System Configuration، الإطار نفسه الذي تستخدمه تفضيلات الشبكة</translation>
     </message>
     <message>
         <source>System Settings</source>
@@ -1033,7 +1033,7 @@ Settings are applied instantly through {configuration}. No restarts required.</s
     </message>
     <message>
         <source>NetworkManager, the same service used by your desktop&apos;s network settings</source>
-        <translation>NetworkManager، الخدمة نفسها التي تستخدمها إعدادات الشبكة في سطح المكتب</translation>
+        <translation>‏NetworkManager، الخدمة نفسها التي تستخدمها إعدادات الشبكة في سطح المكتب</translation>
     </message>
     <message>
         <source>the desktop&apos;s settings</source>

@@ -272,7 +272,7 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
     </message>
     <message>
         <source>Save, load, rename, delete named presets</source>
-        <translation>Benannte Voreinstellungen sichern, laden, umbenennen, löschen</translation>
+        <translation>Benannte Voreinstellungen speichern, laden, umbenennen, löschen</translation>
     </message>
     <message>
         <source>Import &amp; Export</source>
@@ -348,11 +348,11 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
     </message>
     <message>
         <source>Save a Profile</source>
-        <translation>Ein Profil sichern</translation>
+        <translation>Ein Profil speichern</translation>
     </message>
     <message>
         <source>Click &quot;Save Profile…&quot; at the bottom of the left panel. Give the preset a name — it appears in the profiles list immediately.</source>
-        <translation>Klicken Sie unten im linken Bereich auf „Profil sichern …“. Geben Sie ihm einen Namen – es erscheint sofort in der Profilliste.</translation>
+        <translation>Klicken Sie unten im linken Bereich auf „Profil speichern …“. Geben Sie ihm einen Namen – es erscheint sofort in der Profilliste.</translation>
     </message>
     <message>
         <source>Load a Profile</source>
@@ -437,11 +437,11 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
     </message>
     <message>
         <source>No saved profiles.</source>
-        <translation>Keine gesicherten Profile.</translation>
+        <translation>Keine gespeicherten Profile.</translation>
     </message>
     <message>
         <source>Save Profile…</source>
-        <translation>Profil sichern …</translation>
+        <translation>Profil speichern …</translation>
     </message>
     <message>
         <source>Import profiles from file</source>
@@ -801,11 +801,11 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
     <name>ardeo::SavePresetSheet</name>
     <message>
         <source>Save Profile</source>
-        <translation>Profil sichern</translation>
+        <translation>Profil speichern</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation>Sichern</translation>
+        <translation>Speichern</translation>
     </message>
 </context>
 <context>

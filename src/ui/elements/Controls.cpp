@@ -158,7 +158,8 @@ void slantPlaceholder(QLineEdit& line)
 {
     const auto follow = [&line] {
         QFont font = line.font();
-        font.setItalic(line.text().isEmpty());
+        // Scripts that run from right to left have no slanted letters.
+        font.setItalic(line.text().isEmpty() && !QGuiApplication::isRightToLeft());
         line.setFont(font);
     };
     QObject::connect(&line, &QLineEdit::textChanged, &line, follow);
@@ -239,6 +240,11 @@ void SymbolView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const int side = std::min(width(), height());
+    if (isRightToLeft() &&
+        (m_symbol == QStringLiteral("list.bullet") || m_symbol.startsWith(QStringLiteral("hand.")))) {
+        painter.translate(width(), 0);
+        painter.scale(-1, 1); // what points where text goes
+    }
     drawSymbol(painter, QRectF((width() - side) / 2.0, (height() - side) / 2.0, side, side), m_symbol,
                m_colour(look::colours(this)));
 }
