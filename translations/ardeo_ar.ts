@@ -891,12 +891,12 @@ Settings are applied instantly through {configuration}. No restarts required.</s
         <translation>الخدمة التي وضع IPv4 فيها «⁨%1⁩» لا تقبل خوادم DNS.</translation>
     </message>
     <message>
-        <source>An earlier change of it awaits confirmation.</source>
-        <translation>هناك تغيير سابق ينتظر التأكيد.</translation>
-    </message>
-    <message>
         <source>No change of it awaits confirmation.</source>
         <translation>لا يوجد تغيير ينتظر التأكيد.</translation>
+    </message>
+    <message>
+        <source>An earlier change of it awaits confirmation; confirm it or take it back first.</source>
+        <translation>هناك تغيير سابق ينتظر التأكيد؛ أكّده أو تراجع عنه أولًا.</translation>
     </message>
 </context>
 <context>

@@ -887,12 +887,12 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
         <translation>Ein Dienst, dessen IPv4 auf „%1“ steht, nimmt keine DNS-Server an.</translation>
     </message>
     <message>
-        <source>An earlier change of it awaits confirmation.</source>
-        <translation>Eine frühere Änderung daran wartet auf Bestätigung.</translation>
-    </message>
-    <message>
         <source>No change of it awaits confirmation.</source>
         <translation>Keine Änderung daran wartet auf Bestätigung.</translation>
+    </message>
+    <message>
+        <source>An earlier change of it awaits confirmation; confirm it or take it back first.</source>
+        <translation>Eine frühere Änderung daran wartet auf Bestätigung; bestätigen Sie sie oder nehmen Sie sie erst zurück.</translation>
     </message>
 </context>
 <context>

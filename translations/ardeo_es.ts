@@ -887,12 +887,12 @@ Los ajustes se aplican al instante mediante {configuration}. No hace falta reini
         <translation>Un servicio cuyo IPv4 es «%1» no admite servidores DNS.</translation>
     </message>
     <message>
-        <source>An earlier change of it awaits confirmation.</source>
-        <translation>Un cambio anterior espera confirmación.</translation>
-    </message>
-    <message>
         <source>No change of it awaits confirmation.</source>
         <translation>Ningún cambio espera confirmación.</translation>
+    </message>
+    <message>
+        <source>An earlier change of it awaits confirmation; confirm it or take it back first.</source>
+        <translation>Un cambio anterior espera confirmación; confírmelo o deshágalo primero.</translation>
     </message>
 </context>
 <context>

@@ -887,12 +887,12 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
         <translation>Un service dont l’IPv4 est « %1 » n’accepte pas de serveurs DNS.</translation>
     </message>
     <message>
-        <source>An earlier change of it awaits confirmation.</source>
-        <translation>Une modification précédente attend une confirmation.</translation>
-    </message>
-    <message>
         <source>No change of it awaits confirmation.</source>
         <translation>Aucune modification n’attend de confirmation.</translation>
+    </message>
+    <message>
+        <source>An earlier change of it awaits confirmation; confirm it or take it back first.</source>
+        <translation>Une modification précédente attend une confirmation ; confirmez-la ou annulez-la d’abord.</translation>
     </message>
 </context>
 <context>
