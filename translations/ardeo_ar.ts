@@ -204,6 +204,478 @@ Works on: %2</source>
     </message>
 </context>
 <context>
+    <name>ardeo::Console</name>
+    <message>
+        <source>A command is missing; see ardeoctl --help.</source>
+        <translation>الأمر مفقود؛ انظر ⁨ardeoctl ⁨--help⁩⁩.</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; see ardeoctl --help.</source>
+        <translation>لا يوجد أمر «⁨%1⁩»؛ انظر ⁨ardeoctl ⁨--help⁩⁩.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; needs a %2.</source>
+        <translation>الأمر «⁨%1⁩» يحتاج إلى ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes no &apos;%2&apos;.</source>
+        <translation>الأمر «⁨%1⁩» لا يقبل «⁨%2⁩».</translation>
+    </message>
+    <message>
+        <source>--system is auto, networkmanager or simulated.</source>
+        <translation>قيمة ⁨--system⁩ هي auto أو networkmanager أو simulated.</translation>
+    </message>
+    <message>
+        <source>--state goes with --system=simulated.</source>
+        <translation>يُستخدم ⁨--state⁩ مع ⁨--system=simulated⁩.</translation>
+    </message>
+    <message>
+        <source>--state needs a file.</source>
+        <translation>يحتاج ⁨--state⁩ إلى ملف.</translation>
+    </message>
+    <message>
+        <source>--confirm-within takes 5 to 3600 seconds.</source>
+        <translation>يقبل ⁨--confirm-within⁩ من 5 إلى 3600 ثانية.</translation>
+    </message>
+    <message>
+        <source>--profile brings all settings along and takes no others beside it.</source>
+        <translation>يجلب ⁨--profile⁩ كل الإعدادات ولا يقبل غيرها معه.</translation>
+    </message>
+    <message>
+        <source>--dhcp takes no --address, --mask or --router.</source>
+        <translation>لا يقبل ⁨--dhcp⁩ أيًا من ⁨--address⁩ أو ⁨--mask⁩ أو ⁨--router⁩.</translation>
+    </message>
+    <message>
+        <source>A manual address takes both --address and --mask.</source>
+        <translation>العنوان اليدوي يحتاج إلى ⁨--address⁩ و ⁨--mask⁩ معًا.</translation>
+    </message>
+    <message>
+        <source>--dns takes two servers at most.</source>
+        <translation>يقبل ⁨--dns⁩ خادمين على الأكثر.</translation>
+    </message>
+    <message>
+        <source>--search needs DNS servers of its own: automatic DNS keeps no search domains.</source>
+        <translation>يحتاج ⁨--search⁩ إلى خوادم DNS خاصة: فإعداد DNS التلقائي لا يحتفظ بنطاقات بحث.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes no --%2.</source>
+        <translation>الأمر «⁨%1⁩» لا يقبل ⁨--⁨%2⁩⁩.</translation>
+    </message>
+    <message>
+        <source>Usage: ardeoctl [--system=SYSTEM] [--state=FILE] COMMAND</source>
+        <translation>الاستخدام: ⁨ardeoctl [⁨--system=SYSTEM⁩] [⁨--state=FILE⁩] COMMAND⁩</translation>
+    </message>
+    <message>
+        <source>Switches the IPv4 and DNS settings of this computer&apos;s network services.</source>
+        <translation>يبدّل إعدادات IPv4 وDNS لخدمات الشبكة في هذا الكمبيوتر.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>الأوامر:</translation>
+    </message>
+    <message>
+        <source>the network services, connected ones first</source>
+        <translation>خدمات الشبكة، المتصلة أولًا</translation>
+    </message>
+    <message>
+        <source>the settings and the state of one service</source>
+        <translation>إعدادات خدمة واحدة وحالتها</translation>
+    </message>
+    <message>
+        <source>change a service; what is not named keeps its present value</source>
+        <translation>تغيير خدمة؛ ما لا يُذكر يحتفظ بقيمته الحالية</translation>
+    </message>
+    <message>
+        <source>put the service on DHCP and take a new lease</source>
+        <translation>وضع الخدمة على DHCP وأخذ تأجير جديد</translation>
+    </message>
+    <message>
+        <source>switch the service on</source>
+        <translation>تشغيل الخدمة</translation>
+    </message>
+    <message>
+        <source>switch the service off, and keep it off</source>
+        <translation>إيقاف الخدمة وإبقاؤها متوقفة</translation>
+    </message>
+    <message>
+        <source>keep what was changed on trial, of one service or of all</source>
+        <translation>إبقاء ما غُيّر على سبيل التجربة، لخدمة أو للكل</translation>
+    </message>
+    <message>
+        <source>take it back at once</source>
+        <translation>التراجع عنه فورًا</translation>
+    </message>
+    <message>
+        <source>the saved profiles</source>
+        <translation>ملفات التعريف المحفوظة</translation>
+    </message>
+    <message>
+        <source>write them to a file</source>
+        <translation>كتابتها في ملف</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>الإعدادات:</translation>
+    </message>
+    <message>
+        <source>take the address from the network</source>
+        <translation>أخذ العنوان من الشبكة</translation>
+    </message>
+    <message>
+        <source>a manual address with its dotted mask</source>
+        <translation>عنوان يدوي مع قناعه المنقوط</translation>
+    </message>
+    <message>
+        <source>the gateway of a manual address; --router= for none</source>
+        <translation>بوابة عنوان يدوي؛ و⁨--router=⁩ لعدم وجودها</translation>
+    </message>
+    <message>
+        <source>take the DNS servers from the network</source>
+        <translation>أخذ خوادم DNS من الشبكة</translation>
+    </message>
+    <message>
+        <source>DNS servers set by hand</source>
+        <translation>خوادم DNS مضبوطة يدويًا</translation>
+    </message>
+    <message>
+        <source>search domains, with DNS servers set by hand</source>
+        <translation>نطاقات بحث، مع خوادم DNS مضبوطة يدويًا</translation>
+    </message>
+    <message>
+        <source>Trial (apply, renew, enable, disable):</source>
+        <translation>التجربة ⁨(apply, renew, enable, disable)⁩:</translation>
+    </message>
+    <message>
+        <source>take the change back by itself unless it is confirmed in time</source>
+        <translation>التراجع عن التغيير تلقائيًا ما لم يؤكَّد في الوقت المحدد</translation>
+    </message>
+    <message>
+        <source>Systems:</source>
+        <translation>الأنظمة:</translation>
+    </message>
+    <message>
+        <source>NetworkManager, with advice where it is not running (the default)</source>
+        <translation>خدمة NetworkManager، مع نصيحة حيث لا تعمل (الافتراضي)</translation>
+    </message>
+    <message>
+        <source>this computer</source>
+        <translation>هذا الكمبيوتر</translation>
+    </message>
+    <message>
+        <source>a simulated machine, for trying things out</source>
+        <translation>جهاز محاكى لتجربة الأشياء</translation>
+    </message>
+    <message>
+        <source>the file that the simulated machine lives in</source>
+        <translation>الملف الذي يعيش فيه الجهاز المُحاكى</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 when done, 1 when it failed (the reason is on standard error), 2 for wrong usage.</source>
+        <translation>حالة الخروج: 0 عند الإتمام، 1 عند الفشل (السبب في مخرج الأخطاء القياسي)، 2 عند الاستخدام الخاطئ.</translation>
+    </message>
+    <message>
+        <source>No change awaits confirmation.</source>
+        <translation>لا يوجد تغيير ينتظر التأكيد.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>تعذّرت كتابة ⁨%1⁩: ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>The saved profiles cannot be read.</source>
+        <translation>تعذّرت قراءة ملفات التعريف المحفوظة.</translation>
+    </message>
+    <message>
+        <source>There is no profile &apos;%1&apos;.</source>
+        <translation>لا يوجد ملف تعريف «⁨%1⁩».</translation>
+    </message>
+    <message>
+        <source>%1 profiles are named &apos;%2&apos;.</source>
+        <translation>عدد ملفات التعريف المسماة «⁨%2⁩»: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>--search needs --dns: automatic DNS keeps no search domains.</source>
+        <translation>يحتاج ⁨--search⁩ إلى ⁨--dns⁩: فإعداد DNS التلقائي لا يحتفظ بنطاقات بحث.</translation>
+    </message>
+    <message>
+        <source>--router needs --address and --mask.</source>
+        <translation>يحتاج ⁨--router⁩ إلى ⁨--address⁩ و ⁨--mask⁩.</translation>
+    </message>
+    <message>
+        <source>A profile holds text that is not valid Unicode.</source>
+        <translation>يحتوي أحد ملفات التعريف على نص ليس بترميز Unicode صالح.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>⁨%1⁩ على ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Cannot write the output: %1.</source>
+        <translation>تعذّرت كتابة المخرجات: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>يدوي</translation>
+    </message>
+    <message>
+        <source>DHCP</source>
+        <translation>DHCP</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>تلقائي</translation>
+    </message>
+    <message numerus="yes">
+        <source>, %n s to confirm</source>
+        <translation>
+            <numerusform>، بقيت %n ث للتأكيد</numerusform>
+            <numerusform>، بقيت %n ث للتأكيد</numerusform>
+            <numerusform>، بقيت %n ث للتأكيد</numerusform>
+            <numerusform>، بقيت %n ث للتأكيد</numerusform>
+            <numerusform>، بقيت %n ث للتأكيد</numerusform>
+            <numerusform>، بقيت %n ث للتأكيد</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>معطّل</translation>
+    </message>
+    <message>
+        <source>%1 Gb/s</source>
+        <translation>%1 غيغابت/ث</translation>
+    </message>
+    <message>
+        <source>%1 Mb/s</source>
+        <translation>%1 ميغابت/ث</translation>
+    </message>
+    <message>
+        <source>full-duplex</source>
+        <translation>ازدواج كامل</translation>
+    </message>
+    <message>
+        <source>half-duplex</source>
+        <translation>نصف ازدواج</translation>
+    </message>
+    <message>
+        <source>No network services.</source>
+        <translation>لا توجد خدمات شبكة.</translation>
+    </message>
+    <message>
+        <source>SERVICE</source>
+        <translation>الخدمة</translation>
+    </message>
+    <message>
+        <source>STATE</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>الجهاز</translation>
+    </message>
+    <message>
+        <source>HARDWARE ADDRESS</source>
+        <translation>العنوان الفعلي</translation>
+    </message>
+    <message>
+        <source>LINK</source>
+        <translation>الوصلة</translation>
+    </message>
+    <message>
+        <source>HARDWARE</source>
+        <translation>العتاد</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>الحالة:</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>الوضع:</translation>
+    </message>
+    <message>
+        <source>IP Address:</source>
+        <translation>عنوان IP:</translation>
+    </message>
+    <message>
+        <source>Subnet Mask:</source>
+        <translation>قناع الشبكة:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>البوابة:</translation>
+    </message>
+    <message>
+        <source>DNS:</source>
+        <translation>DNS:</translation>
+    </message>
+    <message>
+        <source>Search Domains:</source>
+        <translation>نطاقات البحث:</translation>
+    </message>
+    <message>
+        <source>No saved profiles.</source>
+        <translation>لا توجد ملفات تعريف محفوظة.</translation>
+    </message>
+    <message>
+        <source>PROFILE</source>
+        <translation>ملف التعريف</translation>
+    </message>
+    <message>
+        <source>IPV4</source>
+        <translation>IPV4</translation>
+    </message>
+    <message>
+        <source>DNS</source>
+        <translation>DNS</translation>
+    </message>
+    <message>
+        <source>The change has been taken back.</source>
+        <translation>تم التراجع عن التغيير.</translation>
+    </message>
+    <message>
+        <source>The change is no longer on trial.</source>
+        <translation>لم يعد التغيير قيد التجربة.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Keep this change? Enter keeps it, u and Enter takes it back; so does waiting %n s. </source>
+        <translation>
+            <numerusform>هل تريد إبقاء هذا التغيير؟ Enter يبقيه، وu ثم Enter يتراجع عنه، وكذلك الانتظار %n ث. </numerusform>
+            <numerusform>هل تريد إبقاء هذا التغيير؟ Enter يبقيه، وu ثم Enter يتراجع عنه، وكذلك الانتظار %n ث. </numerusform>
+            <numerusform>هل تريد إبقاء هذا التغيير؟ Enter يبقيه، وu ثم Enter يتراجع عنه، وكذلك الانتظار %n ث. </numerusform>
+            <numerusform>هل تريد إبقاء هذا التغيير؟ Enter يبقيه، وu ثم Enter يتراجع عنه، وكذلك الانتظار %n ث. </numerusform>
+            <numerusform>هل تريد إبقاء هذا التغيير؟ Enter يبقيه، وu ثم Enter يتراجع عنه، وكذلك الانتظار %n ث. </numerusform>
+            <numerusform>هل تريد إبقاء هذا التغيير؟ Enter يبقيه، وu ثم Enter يتراجع عنه، وكذلك الانتظار %n ث. </numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The change is taken back in %n s. &quot;ardeoctl confirm&quot; keeps it, &quot;ardeoctl undo&quot; takes it back at once.</source>
+        <translation>
+            <numerusform>سيتم التراجع عن التغيير خلال %n ثانية. الأمر «⁨ardeoctl confirm⁩» يبقيه، و«⁨ardeoctl undo⁩» يتراجع عنه فورًا.</numerusform>
+            <numerusform>سيتم التراجع عن التغيير خلال %n ثانية. الأمر «⁨ardeoctl confirm⁩» يبقيه، و«⁨ardeoctl undo⁩» يتراجع عنه فورًا.</numerusform>
+            <numerusform>سيتم التراجع عن التغيير خلال %n ثانية. الأمر «⁨ardeoctl confirm⁩» يبقيه، و«⁨ardeoctl undo⁩» يتراجع عنه فورًا.</numerusform>
+            <numerusform>سيتم التراجع عن التغيير خلال %n ثانية. الأمر «⁨ardeoctl confirm⁩» يبقيه، و«⁨ardeoctl undo⁩» يتراجع عنه فورًا.</numerusform>
+            <numerusform>سيتم التراجع عن التغيير خلال %n ثانية. الأمر «⁨ardeoctl confirm⁩» يبقيه، و«⁨ardeoctl undo⁩» يتراجع عنه فورًا.</numerusform>
+            <numerusform>سيتم التراجع عن التغيير خلال %n ثانية. الأمر «⁨ardeoctl confirm⁩» يبقيه، و«⁨ardeoctl undo⁩» يتراجع عنه فورًا.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--profiles needs --profile.</source>
+        <translation>يحتاج ⁨--profiles⁩ إلى ⁨--profile⁩.</translation>
+    </message>
+    <message>
+        <source>--dry-run changes nothing, and takes no --confirm-within.</source>
+        <translation>لا يغيّر ⁨--dry-run⁩ شيئًا ولا يقبل ⁨--confirm-within⁩.</translation>
+    </message>
+    <message>
+        <source>the same with the settings of a saved profile, or of one that was exported</source>
+        <translation>الأمر نفسه بإعدادات ملف تعريف محفوظ أو ملف صُدّر</translation>
+    </message>
+    <message>
+        <source>one line for each change of a service, until it is ended</source>
+        <translation>سطر لكل تغيير في خدمة، حتى يُنهى الأمر</translation>
+    </message>
+    <message>
+        <source>For scripts (apply):</source>
+        <translation>للنصوص البرمجية ⁨(apply)⁩:</translation>
+    </message>
+    <message>
+        <source>only say what would change; nobody is asked for a password</source>
+        <translation>عرض ما سيتغير فقط؛ دون طلب كلمة مرور</translation>
+    </message>
+    <message>
+        <source>whether something has changed, and what</source>
+        <translation>هل تغيّر شيء، وما هو</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>تعذّرت قراءة ⁨%1⁩: ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>%1 is no list of profiles.</source>
+        <translation>⁨%1⁩ ليس قائمة ملفات تعريف.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>الوضع</translation>
+    </message>
+    <message>
+        <source>IP Address</source>
+        <translation>عنوان IP</translation>
+    </message>
+    <message>
+        <source>Subnet Mask</source>
+        <translation>قناع الشبكة</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>البوابة</translation>
+    </message>
+    <message>
+        <source>Preferred DNS</source>
+        <translation>‏DNS المفضل</translation>
+    </message>
+    <message>
+        <source>Alternate DNS</source>
+        <translation>‏DNS البديل</translation>
+    </message>
+    <message>
+        <source>Search Domains</source>
+        <translation>نطاقات البحث</translation>
+    </message>
+    <message>
+        <source>DHCP Server</source>
+        <translation>خادم DHCP</translation>
+    </message>
+    <message>
+        <source>Computer Name</source>
+        <translation>اسم الكمبيوتر</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>⁨%1⁩:</translation>
+    </message>
+    <message>
+        <source>Nothing to do: &apos;%1&apos; has these settings already.</source>
+        <translation>لا شيء للقيام به: لدى «⁨%1⁩» هذه الإعدادات بالفعل.</translation>
+    </message>
+    <message>
+        <source>The settings are saved already, and would be brought into force.</source>
+        <translation>الإعدادات محفوظة بالفعل وستُجعل سارية.</translation>
+    </message>
+    <message>
+        <source>Only settings that are not shown here would change.</source>
+        <translation>ستتغير فقط إعدادات لا تُعرض هنا.</translation>
+    </message>
+    <message>
+        <source>, on trial</source>
+        <translation>، قيد التجربة</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>The network service answers again.</source>
+        <translation>خدمة الشبكة تستجيب من جديد.</translation>
+    </message>
+    <message>
+        <source>added, %1</source>
+        <translation>أُضيفت، ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>أُزيلت</translation>
+    </message>
+</context>
+<context>
     <name>ardeo::DescribedError</name>
     <message>
         <source>Waiting for another program that is changing the network settings. It is process %1.</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Applying…</source>
-        <translation>Wird angewendet …</translation>
+        <translation>Wird angewendet&#xa0;…</translation>
     </message>
     <message>
         <source>Apply configuration</source>
@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>Loading…</source>
-        <translation>Wird geladen …</translation>
+        <translation>Wird geladen&#xa0;…</translation>
     </message>
     <message>
         <source>Disable Adapter</source>
@@ -201,6 +201,466 @@ Arbeitet auf: %2</translation>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ardeo::Console</name>
+    <message>
+        <source>A command is missing; see ardeoctl --help.</source>
+        <translation>Ein Befehl fehlt; siehe ardeoctl --help.</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; see ardeoctl --help.</source>
+        <translation>Den Befehl „%1“ gibt es nicht; siehe ardeoctl --help.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; needs a %2.</source>
+        <translation>„%1“ braucht %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes no &apos;%2&apos;.</source>
+        <translation>„%1“ nimmt kein „%2“ an.</translation>
+    </message>
+    <message>
+        <source>--system is auto, networkmanager or simulated.</source>
+        <translation>--system ist auto, networkmanager oder simulated.</translation>
+    </message>
+    <message>
+        <source>--state goes with --system=simulated.</source>
+        <translation>--state gehört zu --system=simulated.</translation>
+    </message>
+    <message>
+        <source>--state needs a file.</source>
+        <translation>--state braucht eine Datei.</translation>
+    </message>
+    <message>
+        <source>--confirm-within takes 5 to 3600 seconds.</source>
+        <translation>--confirm-within nimmt 5 bis 3600 Sekunden.</translation>
+    </message>
+    <message>
+        <source>--profile brings all settings along and takes no others beside it.</source>
+        <translation>--profile bringt alle Einstellungen mit und nimmt keine anderen daneben.</translation>
+    </message>
+    <message>
+        <source>--dhcp takes no --address, --mask or --router.</source>
+        <translation>--dhcp nimmt kein --address, --mask oder --router.</translation>
+    </message>
+    <message>
+        <source>A manual address takes both --address and --mask.</source>
+        <translation>Eine manuelle Adresse braucht --address und --mask.</translation>
+    </message>
+    <message>
+        <source>--dns takes two servers at most.</source>
+        <translation>--dns nimmt höchstens zwei Server.</translation>
+    </message>
+    <message>
+        <source>--search needs DNS servers of its own: automatic DNS keeps no search domains.</source>
+        <translation>--search braucht eigene DNS-Server: automatisches DNS behält keine Suchdomänen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes no --%2.</source>
+        <translation>„%1“ nimmt kein --%2 an.</translation>
+    </message>
+    <message>
+        <source>Usage: ardeoctl [--system=SYSTEM] [--state=FILE] COMMAND</source>
+        <translation>Aufruf: ardeoctl [--system=SYSTEM] [--state=FILE] BEFEHL</translation>
+    </message>
+    <message>
+        <source>Switches the IPv4 and DNS settings of this computer&apos;s network services.</source>
+        <translation>Wechselt die IPv4- und DNS-Einstellungen der Netzwerkdienste dieses Computers.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Befehle:</translation>
+    </message>
+    <message>
+        <source>the network services, connected ones first</source>
+        <translation>die Netzwerkdienste, verbundene zuerst</translation>
+    </message>
+    <message>
+        <source>the settings and the state of one service</source>
+        <translation>die Einstellungen und der Zustand eines Dienstes</translation>
+    </message>
+    <message>
+        <source>change a service; what is not named keeps its present value</source>
+        <translation>einen Dienst ändern; was nicht genannt ist, behält seinen Wert</translation>
+    </message>
+    <message>
+        <source>put the service on DHCP and take a new lease</source>
+        <translation>den Dienst auf DHCP stellen und eine neue Lease holen</translation>
+    </message>
+    <message>
+        <source>switch the service on</source>
+        <translation>den Dienst einschalten</translation>
+    </message>
+    <message>
+        <source>switch the service off, and keep it off</source>
+        <translation>den Dienst ausschalten, und er bleibt aus</translation>
+    </message>
+    <message>
+        <source>keep what was changed on trial, of one service or of all</source>
+        <translation>behalten, was auf Probe geändert wurde, von einem Dienst oder allen</translation>
+    </message>
+    <message>
+        <source>take it back at once</source>
+        <translation>es sofort zurücknehmen</translation>
+    </message>
+    <message>
+        <source>the saved profiles</source>
+        <translation>die gespeicherten Profile</translation>
+    </message>
+    <message>
+        <source>write them to a file</source>
+        <translation>sie in eine Datei schreiben</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>Einstellungen:</translation>
+    </message>
+    <message>
+        <source>take the address from the network</source>
+        <translation>die Adresse vom Netz beziehen</translation>
+    </message>
+    <message>
+        <source>a manual address with its dotted mask</source>
+        <translation>eine manuelle Adresse mit ihrer Maske, beide mit Punkten</translation>
+    </message>
+    <message>
+        <source>the gateway of a manual address; --router= for none</source>
+        <translation>das Gateway einer manuellen Adresse; --router= für keines</translation>
+    </message>
+    <message>
+        <source>take the DNS servers from the network</source>
+        <translation>die DNS-Server vom Netz beziehen</translation>
+    </message>
+    <message>
+        <source>DNS servers set by hand</source>
+        <translation>von Hand gesetzte DNS-Server</translation>
+    </message>
+    <message>
+        <source>search domains, with DNS servers set by hand</source>
+        <translation>Suchdomänen, mit von Hand gesetzten DNS-Servern</translation>
+    </message>
+    <message>
+        <source>Trial (apply, renew, enable, disable):</source>
+        <translation>Probe (apply, renew, enable, disable):</translation>
+    </message>
+    <message>
+        <source>take the change back by itself unless it is confirmed in time</source>
+        <translation>die Änderung von selbst zurücknehmen, wenn sie nicht rechtzeitig bestätigt wird</translation>
+    </message>
+    <message>
+        <source>Systems:</source>
+        <translation>Systeme:</translation>
+    </message>
+    <message>
+        <source>NetworkManager, with advice where it is not running (the default)</source>
+        <translation>NetworkManager, mit einem Rat, wo er nicht läuft (die Vorgabe)</translation>
+    </message>
+    <message>
+        <source>this computer</source>
+        <translation>dieser Computer</translation>
+    </message>
+    <message>
+        <source>a simulated machine, for trying things out</source>
+        <translation>ein simulierter Rechner, um etwas auszuprobieren</translation>
+    </message>
+    <message>
+        <source>the file that the simulated machine lives in</source>
+        <translation>die Datei, in der der simulierte Rechner lebt</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 when done, 1 when it failed (the reason is on standard error), 2 for wrong usage.</source>
+        <translation>Rückgabewert: 0, wenn es getan ist, 1, wenn es misslang (der Grund steht auf der Standardfehlerausgabe), 2 bei falschem Aufruf.</translation>
+    </message>
+    <message>
+        <source>No change awaits confirmation.</source>
+        <translation>Keine Änderung wartet auf Bestätigung.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>The saved profiles cannot be read.</source>
+        <translation>Die gespeicherten Profile sind nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>There is no profile &apos;%1&apos;.</source>
+        <translation>Das Profil „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>%1 profiles are named &apos;%2&apos;.</source>
+        <translation>%1 Profile heißen „%2“.</translation>
+    </message>
+    <message>
+        <source>--search needs --dns: automatic DNS keeps no search domains.</source>
+        <translation>--search braucht --dns: automatisches DNS behält keine Suchdomänen.</translation>
+    </message>
+    <message>
+        <source>--router needs --address and --mask.</source>
+        <translation>--router braucht --address und --mask.</translation>
+    </message>
+    <message>
+        <source>A profile holds text that is not valid Unicode.</source>
+        <translation>Ein Profil enthält Text, der kein gültiges Unicode ist.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 auf %2</translation>
+    </message>
+    <message>
+        <source>Cannot write the output: %1.</source>
+        <translation>Die Ausgabe kann nicht geschrieben werden: %1.</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuell</translation>
+    </message>
+    <message>
+        <source>DHCP</source>
+        <translation>DHCP</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message numerus="yes">
+        <source>, %n s to confirm</source>
+        <translation>
+            <numerusform>, noch %n s zum Bestätigen</numerusform>
+            <numerusform>, noch %n s zum Bestätigen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>verbunden</translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation>getrennt</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>deaktiviert</translation>
+    </message>
+    <message>
+        <source>%1 Gb/s</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
+    <message>
+        <source>%1 Mb/s</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>full-duplex</source>
+        <translation>Vollduplex</translation>
+    </message>
+    <message>
+        <source>half-duplex</source>
+        <translation>Halbduplex</translation>
+    </message>
+    <message>
+        <source>No network services.</source>
+        <translation>Keine Netzwerkdienste.</translation>
+    </message>
+    <message>
+        <source>SERVICE</source>
+        <translation>DIENST</translation>
+    </message>
+    <message>
+        <source>STATE</source>
+        <translation>ZUSTAND</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>GERÄT</translation>
+    </message>
+    <message>
+        <source>HARDWARE ADDRESS</source>
+        <translation>HARDWAREADRESSE</translation>
+    </message>
+    <message>
+        <source>LINK</source>
+        <translation>VERBINDUNG</translation>
+    </message>
+    <message>
+        <source>HARDWARE</source>
+        <translation>HARDWARE</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Zustand:</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>Modus:</translation>
+    </message>
+    <message>
+        <source>IP Address:</source>
+        <translation>IP-Adresse:</translation>
+    </message>
+    <message>
+        <source>Subnet Mask:</source>
+        <translation>Subnetzmaske:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Gateway:</translation>
+    </message>
+    <message>
+        <source>DNS:</source>
+        <translation>DNS:</translation>
+    </message>
+    <message>
+        <source>Search Domains:</source>
+        <translation>Suchdomänen:</translation>
+    </message>
+    <message>
+        <source>No saved profiles.</source>
+        <translation>Keine gespeicherten Profile.</translation>
+    </message>
+    <message>
+        <source>PROFILE</source>
+        <translation>PROFIL</translation>
+    </message>
+    <message>
+        <source>IPV4</source>
+        <translation>IPV4</translation>
+    </message>
+    <message>
+        <source>DNS</source>
+        <translation>DNS</translation>
+    </message>
+    <message>
+        <source>The change has been taken back.</source>
+        <translation>Die Änderung wurde zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>The change is no longer on trial.</source>
+        <translation>Die Änderung ist nicht mehr auf Probe.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Keep this change? Enter keeps it, u and Enter takes it back; so does waiting %n s. </source>
+        <translation>
+            <numerusform>Diese Änderung behalten? Eingabe behält sie, u und Eingabe nimmt sie zurück, %n s Warten auch. </numerusform>
+            <numerusform>Diese Änderung behalten? Eingabe behält sie, u und Eingabe nimmt sie zurück, %n s Warten auch. </numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The change is taken back in %n s. &quot;ardeoctl confirm&quot; keeps it, &quot;ardeoctl undo&quot; takes it back at once.</source>
+        <translation>
+            <numerusform>Die Änderung wird in %n Sekunde zurückgenommen. „ardeoctl confirm“ behält sie, „ardeoctl undo“ nimmt sie sofort zurück.</numerusform>
+            <numerusform>Die Änderung wird in %n Sekunden zurückgenommen. „ardeoctl confirm“ behält sie, „ardeoctl undo“ nimmt sie sofort zurück.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--profiles needs --profile.</source>
+        <translation>--profiles braucht --profile.</translation>
+    </message>
+    <message>
+        <source>--dry-run changes nothing, and takes no --confirm-within.</source>
+        <translation>--dry-run ändert nichts und nimmt kein --confirm-within an.</translation>
+    </message>
+    <message>
+        <source>the same with the settings of a saved profile, or of one that was exported</source>
+        <translation>dasselbe mit den Einstellungen eines gespeicherten Profils oder eines, das exportiert wurde</translation>
+    </message>
+    <message>
+        <source>one line for each change of a service, until it is ended</source>
+        <translation>eine Zeile für jede Änderung eines Dienstes, bis es beendet wird</translation>
+    </message>
+    <message>
+        <source>For scripts (apply):</source>
+        <translation>Für Skripte (apply):</translation>
+    </message>
+    <message>
+        <source>only say what would change; nobody is asked for a password</source>
+        <translation>nur sagen, was sich ändern würde; niemand wird nach einem Passwort gefragt</translation>
+    </message>
+    <message>
+        <source>whether something has changed, and what</source>
+        <translation>ob sich etwas geändert hat, und was</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is no list of profiles.</source>
+        <translation>%1 ist keine Liste von Profilen.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>IP Address</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <source>Subnet Mask</source>
+        <translation>Subnetzmaske</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>Gateway</translation>
+    </message>
+    <message>
+        <source>Preferred DNS</source>
+        <translation>Bevorzugter DNS</translation>
+    </message>
+    <message>
+        <source>Alternate DNS</source>
+        <translation>Alternativer DNS</translation>
+    </message>
+    <message>
+        <source>Search Domains</source>
+        <translation>Suchdomänen</translation>
+    </message>
+    <message>
+        <source>DHCP Server</source>
+        <translation>DHCP-Server</translation>
+    </message>
+    <message>
+        <source>Computer Name</source>
+        <translation>Computername</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Nothing to do: &apos;%1&apos; has these settings already.</source>
+        <translation>Nichts zu tun: „%1“ hat diese Einstellungen schon.</translation>
+    </message>
+    <message>
+        <source>The settings are saved already, and would be brought into force.</source>
+        <translation>Die Einstellungen sind schon gespeichert und würden in Kraft gesetzt.</translation>
+    </message>
+    <message>
+        <source>Only settings that are not shown here would change.</source>
+        <translation>Nur Einstellungen, die hier nicht gezeigt werden, würden sich ändern.</translation>
+    </message>
+    <message>
+        <source>, on trial</source>
+        <translation>, auf Probe</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>The network service answers again.</source>
+        <translation>Der Netzwerkdienst antwortet wieder.</translation>
+    </message>
+    <message>
+        <source>added, %1</source>
+        <translation>hinzugekommen, %1</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>entfernt</translation>
     </message>
 </context>
 <context>
@@ -352,7 +812,7 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
     </message>
     <message>
         <source>Click &quot;Save Profile…&quot; at the bottom of the left panel. Give the preset a name — it appears in the profiles list immediately.</source>
-        <translation>Klicken Sie unten im linken Bereich auf „Profil speichern …“. Geben Sie ihm einen Namen – es erscheint sofort in der Profilliste.</translation>
+        <translation>Klicken Sie unten im linken Bereich auf „Profil speichern&#xa0;…“. Geben Sie ihm einen Namen – es erscheint sofort in der Profilliste.</translation>
     </message>
     <message>
         <source>Load a Profile</source>
@@ -441,7 +901,7 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
     </message>
     <message>
         <source>Save Profile…</source>
-        <translation>Profil speichern …</translation>
+        <translation>Profil speichern&#xa0;…</translation>
     </message>
     <message>
         <source>Import profiles from file</source>
@@ -492,11 +952,11 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
     </message>
     <message>
         <source>Import Profiles…</source>
-        <translation>Profile importieren …</translation>
+        <translation>Profile importieren&#xa0;…</translation>
     </message>
     <message>
         <source>Export Profiles…</source>
-        <translation>Profile exportieren …</translation>
+        <translation>Profile exportieren&#xa0;…</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
@@ -540,7 +1000,7 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
     </message>
     <message>
         <source>Keyboard Shortcuts…</source>
-        <translation>Tastenkürzel …</translation>
+        <translation>Tastenkürzel&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -574,15 +1034,15 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
     </message>
     <message>
         <source>Keyboard Shortcuts…</source>
-        <translation>Tastenkürzel …</translation>
+        <translation>Tastenkürzel&#xa0;…</translation>
     </message>
     <message>
         <source>Network Settings…</source>
-        <translation>Netzwerkeinstellungen …</translation>
+        <translation>Netzwerkeinstellungen&#xa0;…</translation>
     </message>
     <message>
         <source>Activity Monitor…</source>
-        <translation>Systemmonitor …</translation>
+        <translation>Systemmonitor&#xa0;…</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -620,11 +1080,11 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
     </message>
     <message>
         <source>Rename…</source>
-        <translation>Umbenennen …</translation>
+        <translation>Umbenennen&#xa0;…</translation>
     </message>
     <message>
         <source>Delete…</source>
-        <translation>Löschen …</translation>
+        <translation>Löschen&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -1025,7 +1485,7 @@ Die Einstellungen werden sofort angewendet, über {configuration}. Kein Neustart
     </message>
     <message>
         <source>this computer</source>
-        <translation>diesem Computer</translation>
+        <translation>dieser Computer</translation>
     </message>
     <message>
         <source>NetworkManager, the same service used by your desktop&apos;s network settings</source>

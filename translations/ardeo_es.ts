@@ -204,6 +204,466 @@ Trabaja sobre: %2</translation>
     </message>
 </context>
 <context>
+    <name>ardeo::Console</name>
+    <message>
+        <source>A command is missing; see ardeoctl --help.</source>
+        <translation>Falta una orden; vea ardeoctl --help.</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; see ardeoctl --help.</source>
+        <translation>No existe la orden «%1»; vea ardeoctl --help.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; needs a %2.</source>
+        <translation>«%1» necesita %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes no &apos;%2&apos;.</source>
+        <translation>«%1» no admite «%2».</translation>
+    </message>
+    <message>
+        <source>--system is auto, networkmanager or simulated.</source>
+        <translation>--system es auto, networkmanager o simulated.</translation>
+    </message>
+    <message>
+        <source>--state goes with --system=simulated.</source>
+        <translation>--state va con --system=simulated.</translation>
+    </message>
+    <message>
+        <source>--state needs a file.</source>
+        <translation>--state necesita un archivo.</translation>
+    </message>
+    <message>
+        <source>--confirm-within takes 5 to 3600 seconds.</source>
+        <translation>--confirm-within admite de 5 a 3600 segundos.</translation>
+    </message>
+    <message>
+        <source>--profile brings all settings along and takes no others beside it.</source>
+        <translation>--profile trae todos los ajustes y no admite otros a su lado.</translation>
+    </message>
+    <message>
+        <source>--dhcp takes no --address, --mask or --router.</source>
+        <translation>--dhcp no admite --address, --mask ni --router.</translation>
+    </message>
+    <message>
+        <source>A manual address takes both --address and --mask.</source>
+        <translation>Una dirección manual necesita --address y --mask.</translation>
+    </message>
+    <message>
+        <source>--dns takes two servers at most.</source>
+        <translation>--dns admite dos servidores como máximo.</translation>
+    </message>
+    <message>
+        <source>--search needs DNS servers of its own: automatic DNS keeps no search domains.</source>
+        <translation>--search necesita servidores DNS propios: el DNS automático no conserva dominios de búsqueda.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes no --%2.</source>
+        <translation>«%1» no admite --%2.</translation>
+    </message>
+    <message>
+        <source>Usage: ardeoctl [--system=SYSTEM] [--state=FILE] COMMAND</source>
+        <translation>Uso: ardeoctl [--system=SYSTEM] [--state=FILE] ORDEN</translation>
+    </message>
+    <message>
+        <source>Switches the IPv4 and DNS settings of this computer&apos;s network services.</source>
+        <translation>Cambia los ajustes IPv4 y DNS de los servicios de red de este equipo.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Órdenes:</translation>
+    </message>
+    <message>
+        <source>the network services, connected ones first</source>
+        <translation>los servicios de red, primero los conectados</translation>
+    </message>
+    <message>
+        <source>the settings and the state of one service</source>
+        <translation>los ajustes y el estado de un servicio</translation>
+    </message>
+    <message>
+        <source>change a service; what is not named keeps its present value</source>
+        <translation>cambiar un servicio; lo que no se nombra conserva su valor</translation>
+    </message>
+    <message>
+        <source>put the service on DHCP and take a new lease</source>
+        <translation>poner el servicio en DHCP y tomar una concesión nueva</translation>
+    </message>
+    <message>
+        <source>switch the service on</source>
+        <translation>activar el servicio</translation>
+    </message>
+    <message>
+        <source>switch the service off, and keep it off</source>
+        <translation>desactivar el servicio y mantenerlo así</translation>
+    </message>
+    <message>
+        <source>keep what was changed on trial, of one service or of all</source>
+        <translation>conservar lo cambiado a prueba, de un servicio o de todos</translation>
+    </message>
+    <message>
+        <source>take it back at once</source>
+        <translation>deshacerlo enseguida</translation>
+    </message>
+    <message>
+        <source>the saved profiles</source>
+        <translation>los perfiles guardados</translation>
+    </message>
+    <message>
+        <source>write them to a file</source>
+        <translation>escribirlos en un archivo</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>Ajustes:</translation>
+    </message>
+    <message>
+        <source>take the address from the network</source>
+        <translation>tomar la dirección de la red</translation>
+    </message>
+    <message>
+        <source>a manual address with its dotted mask</source>
+        <translation>una dirección manual con su máscara con puntos</translation>
+    </message>
+    <message>
+        <source>the gateway of a manual address; --router= for none</source>
+        <translation>la puerta de enlace de una dirección manual; --router= para ninguna</translation>
+    </message>
+    <message>
+        <source>take the DNS servers from the network</source>
+        <translation>tomar los servidores DNS de la red</translation>
+    </message>
+    <message>
+        <source>DNS servers set by hand</source>
+        <translation>servidores DNS puestos a mano</translation>
+    </message>
+    <message>
+        <source>search domains, with DNS servers set by hand</source>
+        <translation>dominios de búsqueda, con servidores DNS puestos a mano</translation>
+    </message>
+    <message>
+        <source>Trial (apply, renew, enable, disable):</source>
+        <translation>Prueba (apply, renew, enable, disable):</translation>
+    </message>
+    <message>
+        <source>take the change back by itself unless it is confirmed in time</source>
+        <translation>deshacer el cambio por sí solo si no se confirma a tiempo</translation>
+    </message>
+    <message>
+        <source>Systems:</source>
+        <translation>Sistemas:</translation>
+    </message>
+    <message>
+        <source>NetworkManager, with advice where it is not running (the default)</source>
+        <translation>NetworkManager, con un consejo donde no está en ejecución (lo predeterminado)</translation>
+    </message>
+    <message>
+        <source>this computer</source>
+        <translation>este equipo</translation>
+    </message>
+    <message>
+        <source>a simulated machine, for trying things out</source>
+        <translation>un equipo simulado, para probar cosas</translation>
+    </message>
+    <message>
+        <source>the file that the simulated machine lives in</source>
+        <translation>el archivo en el que vive el equipo simulado</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 when done, 1 when it failed (the reason is on standard error), 2 for wrong usage.</source>
+        <translation>Estado de salida: 0 si se hizo, 1 si falló (el motivo está en la salida de errores), 2 por uso incorrecto.</translation>
+    </message>
+    <message>
+        <source>No change awaits confirmation.</source>
+        <translation>Ningún cambio espera confirmación.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>No se puede escribir %1: %2.</translation>
+    </message>
+    <message>
+        <source>The saved profiles cannot be read.</source>
+        <translation>No se pueden leer los perfiles guardados.</translation>
+    </message>
+    <message>
+        <source>There is no profile &apos;%1&apos;.</source>
+        <translation>No existe el perfil «%1».</translation>
+    </message>
+    <message>
+        <source>%1 profiles are named &apos;%2&apos;.</source>
+        <translation>%1 perfiles se llaman «%2».</translation>
+    </message>
+    <message>
+        <source>--search needs --dns: automatic DNS keeps no search domains.</source>
+        <translation>--search necesita --dns: el DNS automático no conserva dominios de búsqueda.</translation>
+    </message>
+    <message>
+        <source>--router needs --address and --mask.</source>
+        <translation>--router necesita --address y --mask.</translation>
+    </message>
+    <message>
+        <source>A profile holds text that is not valid Unicode.</source>
+        <translation>Un perfil contiene texto que no es Unicode válido.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>Cannot write the output: %1.</source>
+        <translation>No se puede escribir la salida: %1.</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>DHCP</source>
+        <translation>DHCP</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message numerus="yes">
+        <source>, %n s to confirm</source>
+        <translation>
+            <numerusform>, %n s para confirmar</numerusform>
+            <numerusform>, %n s para confirmar</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>conectado</translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation>desconectado</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>desactivado</translation>
+    </message>
+    <message>
+        <source>%1 Gb/s</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
+    <message>
+        <source>%1 Mb/s</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>full-duplex</source>
+        <translation>dúplex completo</translation>
+    </message>
+    <message>
+        <source>half-duplex</source>
+        <translation>semidúplex</translation>
+    </message>
+    <message>
+        <source>No network services.</source>
+        <translation>No hay servicios de red.</translation>
+    </message>
+    <message>
+        <source>SERVICE</source>
+        <translation>SERVICIO</translation>
+    </message>
+    <message>
+        <source>STATE</source>
+        <translation>ESTADO</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>DISPOSITIVO</translation>
+    </message>
+    <message>
+        <source>HARDWARE ADDRESS</source>
+        <translation>DIRECCIÓN FÍSICA</translation>
+    </message>
+    <message>
+        <source>LINK</source>
+        <translation>ENLACE</translation>
+    </message>
+    <message>
+        <source>HARDWARE</source>
+        <translation>HARDWARE</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Estado:</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>Modo:</translation>
+    </message>
+    <message>
+        <source>IP Address:</source>
+        <translation>Dirección IP:</translation>
+    </message>
+    <message>
+        <source>Subnet Mask:</source>
+        <translation>Máscara:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Puerta de enlace:</translation>
+    </message>
+    <message>
+        <source>DNS:</source>
+        <translation>DNS:</translation>
+    </message>
+    <message>
+        <source>Search Domains:</source>
+        <translation>Dominios de búsqueda:</translation>
+    </message>
+    <message>
+        <source>No saved profiles.</source>
+        <translation>No hay perfiles guardados.</translation>
+    </message>
+    <message>
+        <source>PROFILE</source>
+        <translation>PERFIL</translation>
+    </message>
+    <message>
+        <source>IPV4</source>
+        <translation>IPV4</translation>
+    </message>
+    <message>
+        <source>DNS</source>
+        <translation>DNS</translation>
+    </message>
+    <message>
+        <source>The change has been taken back.</source>
+        <translation>El cambio se ha deshecho.</translation>
+    </message>
+    <message>
+        <source>The change is no longer on trial.</source>
+        <translation>El cambio ya no está a prueba.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Keep this change? Enter keeps it, u and Enter takes it back; so does waiting %n s. </source>
+        <translation>
+            <numerusform>¿Conservar este cambio? Intro lo conserva, u e Intro lo deshace; esperar %n s también. </numerusform>
+            <numerusform>¿Conservar este cambio? Intro lo conserva, u e Intro lo deshace; esperar %n s también. </numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The change is taken back in %n s. &quot;ardeoctl confirm&quot; keeps it, &quot;ardeoctl undo&quot; takes it back at once.</source>
+        <translation>
+            <numerusform>El cambio se deshará en %n segundo. «ardeoctl confirm» lo conserva, «ardeoctl undo» lo deshace enseguida.</numerusform>
+            <numerusform>El cambio se deshará en %n segundos. «ardeoctl confirm» lo conserva, «ardeoctl undo» lo deshace enseguida.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--profiles needs --profile.</source>
+        <translation>--profiles necesita --profile.</translation>
+    </message>
+    <message>
+        <source>--dry-run changes nothing, and takes no --confirm-within.</source>
+        <translation>--dry-run no cambia nada y no admite --confirm-within.</translation>
+    </message>
+    <message>
+        <source>the same with the settings of a saved profile, or of one that was exported</source>
+        <translation>lo mismo con los ajustes de un perfil guardado, o de uno exportado</translation>
+    </message>
+    <message>
+        <source>one line for each change of a service, until it is ended</source>
+        <translation>una línea por cada cambio de un servicio, hasta que se termine</translation>
+    </message>
+    <message>
+        <source>For scripts (apply):</source>
+        <translation>Para scripts (apply):</translation>
+    </message>
+    <message>
+        <source>only say what would change; nobody is asked for a password</source>
+        <translation>solo decir qué cambiaría; no se pide ninguna contraseña</translation>
+    </message>
+    <message>
+        <source>whether something has changed, and what</source>
+        <translation>si algo ha cambiado, y qué</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>No se puede leer %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is no list of profiles.</source>
+        <translation>%1 no es una lista de perfiles.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>IP Address</source>
+        <translation>Dirección IP</translation>
+    </message>
+    <message>
+        <source>Subnet Mask</source>
+        <translation>Máscara</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>Puerta de enlace</translation>
+    </message>
+    <message>
+        <source>Preferred DNS</source>
+        <translation>DNS preferido</translation>
+    </message>
+    <message>
+        <source>Alternate DNS</source>
+        <translation>DNS alternativo</translation>
+    </message>
+    <message>
+        <source>Search Domains</source>
+        <translation>Dominios de búsqueda</translation>
+    </message>
+    <message>
+        <source>DHCP Server</source>
+        <translation>Servidor DHCP</translation>
+    </message>
+    <message>
+        <source>Computer Name</source>
+        <translation>Equipo</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Nothing to do: &apos;%1&apos; has these settings already.</source>
+        <translation>Nada que hacer: «%1» ya tiene estos ajustes.</translation>
+    </message>
+    <message>
+        <source>The settings are saved already, and would be brought into force.</source>
+        <translation>Los ajustes ya están guardados y se pondrían en vigor.</translation>
+    </message>
+    <message>
+        <source>Only settings that are not shown here would change.</source>
+        <translation>Solo cambiarían ajustes que no se muestran aquí.</translation>
+    </message>
+    <message>
+        <source>, on trial</source>
+        <translation>, a prueba</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>The network service answers again.</source>
+        <translation>El servicio de red responde de nuevo.</translation>
+    </message>
+    <message>
+        <source>added, %1</source>
+        <translation>añadido, %1</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>eliminado</translation>
+    </message>
+</context>
+<context>
     <name>ardeo::DescribedError</name>
     <message>
         <source>Waiting for another program that is changing the network settings. It is process %1.</source>

@@ -36,31 +36,31 @@
     </message>
     <message>
         <source>IP Address:</source>
-        <translation>Adresse IP :</translation>
+        <translation>Adresse IP&#xa0;:</translation>
     </message>
     <message>
         <source>Subnet Mask:</source>
-        <translation>Masque :</translation>
+        <translation>Masque&#xa0;:</translation>
     </message>
     <message>
         <source>Gateway:</source>
-        <translation>Passerelle :</translation>
+        <translation>Passerelle&#xa0;:</translation>
     </message>
     <message>
         <source>Preferred DNS:</source>
-        <translation>DNS préféré :</translation>
+        <translation>DNS préféré&#xa0;:</translation>
     </message>
     <message>
         <source>Alternate DNS:</source>
-        <translation>DNS auxiliaire :</translation>
+        <translation>DNS auxiliaire&#xa0;:</translation>
     </message>
     <message>
         <source>DHCP Server:</source>
-        <translation>Serveur DHCP :</translation>
+        <translation>Serveur DHCP&#xa0;:</translation>
     </message>
     <message>
         <source>Mode:</source>
-        <translation>Mode :</translation>
+        <translation>Mode&#xa0;:</translation>
     </message>
     <message>
         <source>Manual</source>
@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>Computer Name:</source>
-        <translation>Ordinateur :</translation>
+        <translation>Ordinateur&#xa0;:</translation>
     </message>
     <message>
         <source>Loading…</source>
@@ -134,7 +134,7 @@
     <name>ardeo::AppDelegate</name>
     <message>
         <source>Ardeo IP Config is still running. This desktop shows no tray icons, so its window was minimised instead of hidden. %1 ends the program.</source>
-        <translation>Ardeo IP Config est toujours en cours d’exécution. Ce bureau n’affiche pas d’icônes de notification ; la fenêtre a donc été réduite au lieu d’être masquée. %1 quitte le programme.</translation>
+        <translation>Ardeo IP Config est toujours en cours d’exécution. Ce bureau n’affiche pas d’icônes de notification&#x202f;; la fenêtre a donc été réduite au lieu d’être masquée. %1 quitte le programme.</translation>
     </message>
 </context>
 <context>
@@ -155,7 +155,7 @@
         <source>Version %1
 Works on: %2</source>
         <translation>Version %1
-Fonctionne sur : %2</translation>
+Fonctionne sur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -177,7 +177,7 @@ Fonctionne sur : %2</translation>
     </message>
     <message>
         <source>Service &apos;%1&apos; not found.</source>
-        <translation>Service « %1 » introuvable.</translation>
+        <translation>Service «&#xa0;%1&#xa0;» introuvable.</translation>
     </message>
     <message>
         <source>Protocol %1 unavailable.</source>
@@ -204,6 +204,466 @@ Fonctionne sur : %2</translation>
     </message>
 </context>
 <context>
+    <name>ardeo::Console</name>
+    <message>
+        <source>A command is missing; see ardeoctl --help.</source>
+        <translation>Il manque une commande&#x202f;; voir ardeoctl --help.</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; see ardeoctl --help.</source>
+        <translation>La commande «&#xa0;%1&#xa0;» n’existe pas&#x202f;; voir ardeoctl --help.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; needs a %2.</source>
+        <translation>«&#xa0;%1&#xa0;» exige %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes no &apos;%2&apos;.</source>
+        <translation>«&#xa0;%1&#xa0;» n’accepte pas «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>--system is auto, networkmanager or simulated.</source>
+        <translation>--system vaut auto, networkmanager ou simulated.</translation>
+    </message>
+    <message>
+        <source>--state goes with --system=simulated.</source>
+        <translation>--state va avec --system=simulated.</translation>
+    </message>
+    <message>
+        <source>--state needs a file.</source>
+        <translation>--state exige un fichier.</translation>
+    </message>
+    <message>
+        <source>--confirm-within takes 5 to 3600 seconds.</source>
+        <translation>--confirm-within accepte de 5 à 3600 secondes.</translation>
+    </message>
+    <message>
+        <source>--profile brings all settings along and takes no others beside it.</source>
+        <translation>--profile apporte tous les réglages et n’en accepte pas d’autres à côté.</translation>
+    </message>
+    <message>
+        <source>--dhcp takes no --address, --mask or --router.</source>
+        <translation>--dhcp n’accepte ni --address, ni --mask, ni --router.</translation>
+    </message>
+    <message>
+        <source>A manual address takes both --address and --mask.</source>
+        <translation>Une adresse manuelle exige --address et --mask.</translation>
+    </message>
+    <message>
+        <source>--dns takes two servers at most.</source>
+        <translation>--dns accepte deux serveurs au plus.</translation>
+    </message>
+    <message>
+        <source>--search needs DNS servers of its own: automatic DNS keeps no search domains.</source>
+        <translation>--search exige des serveurs DNS propres&#xa0;: le DNS automatique ne garde pas de domaines de recherche.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; takes no --%2.</source>
+        <translation>«&#xa0;%1&#xa0;» n’accepte pas --%2.</translation>
+    </message>
+    <message>
+        <source>Usage: ardeoctl [--system=SYSTEM] [--state=FILE] COMMAND</source>
+        <translation>Utilisation&#xa0;: ardeoctl [--system=SYSTEM] [--state=FILE] COMMANDE</translation>
+    </message>
+    <message>
+        <source>Switches the IPv4 and DNS settings of this computer&apos;s network services.</source>
+        <translation>Change les réglages IPv4 et DNS des services réseau de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Commandes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>the network services, connected ones first</source>
+        <translation>les services réseau, ceux qui sont connectés d’abord</translation>
+    </message>
+    <message>
+        <source>the settings and the state of one service</source>
+        <translation>les réglages et l’état d’un service</translation>
+    </message>
+    <message>
+        <source>change a service; what is not named keeps its present value</source>
+        <translation>modifier un service&#x202f;; ce qui n’est pas nommé garde sa valeur</translation>
+    </message>
+    <message>
+        <source>put the service on DHCP and take a new lease</source>
+        <translation>mettre le service en DHCP et prendre un nouveau bail</translation>
+    </message>
+    <message>
+        <source>switch the service on</source>
+        <translation>activer le service</translation>
+    </message>
+    <message>
+        <source>switch the service off, and keep it off</source>
+        <translation>désactiver le service, et le laisser désactivé</translation>
+    </message>
+    <message>
+        <source>keep what was changed on trial, of one service or of all</source>
+        <translation>conserver ce qui a été modifié à l’essai, d’un service ou de tous</translation>
+    </message>
+    <message>
+        <source>take it back at once</source>
+        <translation>l’annuler aussitôt</translation>
+    </message>
+    <message>
+        <source>the saved profiles</source>
+        <translation>les profils enregistrés</translation>
+    </message>
+    <message>
+        <source>write them to a file</source>
+        <translation>les écrire dans un fichier</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>Réglages&#xa0;:</translation>
+    </message>
+    <message>
+        <source>take the address from the network</source>
+        <translation>prendre l’adresse du réseau</translation>
+    </message>
+    <message>
+        <source>a manual address with its dotted mask</source>
+        <translation>une adresse manuelle avec son masque pointé</translation>
+    </message>
+    <message>
+        <source>the gateway of a manual address; --router= for none</source>
+        <translation>la passerelle d’une adresse manuelle&#x202f;; --router= pour aucune</translation>
+    </message>
+    <message>
+        <source>take the DNS servers from the network</source>
+        <translation>prendre les serveurs DNS du réseau</translation>
+    </message>
+    <message>
+        <source>DNS servers set by hand</source>
+        <translation>serveurs DNS définis à la main</translation>
+    </message>
+    <message>
+        <source>search domains, with DNS servers set by hand</source>
+        <translation>domaines de recherche, avec des serveurs DNS définis à la main</translation>
+    </message>
+    <message>
+        <source>Trial (apply, renew, enable, disable):</source>
+        <translation>Essai (apply, renew, enable, disable)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>take the change back by itself unless it is confirmed in time</source>
+        <translation>annuler la modification d’elle-même si elle n’est pas confirmée à temps</translation>
+    </message>
+    <message>
+        <source>Systems:</source>
+        <translation>Systèmes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>NetworkManager, with advice where it is not running (the default)</source>
+        <translation>NetworkManager, avec un conseil là où il ne fonctionne pas (par défaut)</translation>
+    </message>
+    <message>
+        <source>this computer</source>
+        <translation>cet ordinateur</translation>
+    </message>
+    <message>
+        <source>a simulated machine, for trying things out</source>
+        <translation>une machine simulée, pour essayer</translation>
+    </message>
+    <message>
+        <source>the file that the simulated machine lives in</source>
+        <translation>le fichier où vit la machine simulée</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 when done, 1 when it failed (the reason is on standard error), 2 for wrong usage.</source>
+        <translation>Code de retour&#xa0;: 0 si c’est fait, 1 en cas d’échec (la raison est sur la sortie d’erreur), 2 pour un mauvais appel.</translation>
+    </message>
+    <message>
+        <source>No change awaits confirmation.</source>
+        <translation>Aucune modification n’attend de confirmation.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The saved profiles cannot be read.</source>
+        <translation>Les profils enregistrés sont illisibles.</translation>
+    </message>
+    <message>
+        <source>There is no profile &apos;%1&apos;.</source>
+        <translation>Le profil «&#xa0;%1&#xa0;» n’existe pas.</translation>
+    </message>
+    <message>
+        <source>%1 profiles are named &apos;%2&apos;.</source>
+        <translation>%1 profils s’appellent «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>--search needs --dns: automatic DNS keeps no search domains.</source>
+        <translation>--search exige --dns&#xa0;: le DNS automatique ne garde pas de domaines de recherche.</translation>
+    </message>
+    <message>
+        <source>--router needs --address and --mask.</source>
+        <translation>--router exige --address et --mask.</translation>
+    </message>
+    <message>
+        <source>A profile holds text that is not valid Unicode.</source>
+        <translation>Un profil contient un texte qui n’est pas de l’Unicode valide.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Cannot write the output: %1.</source>
+        <translation>Impossible d’écrire la sortie&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>DHCP</source>
+        <translation>DHCP</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message numerus="yes">
+        <source>, %n s to confirm</source>
+        <translation>
+            <numerusform>, %n s pour confirmer</numerusform>
+            <numerusform>, %n s pour confirmer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>connecté</translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation>déconnecté</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>désactivé</translation>
+    </message>
+    <message>
+        <source>%1 Gb/s</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
+    <message>
+        <source>%1 Mb/s</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>full-duplex</source>
+        <translation>duplex intégral</translation>
+    </message>
+    <message>
+        <source>half-duplex</source>
+        <translation>semi-duplex</translation>
+    </message>
+    <message>
+        <source>No network services.</source>
+        <translation>Aucun service réseau.</translation>
+    </message>
+    <message>
+        <source>SERVICE</source>
+        <translation>SERVICE</translation>
+    </message>
+    <message>
+        <source>STATE</source>
+        <translation>ÉTAT</translation>
+    </message>
+    <message>
+        <source>DEVICE</source>
+        <translation>PÉRIPHÉRIQUE</translation>
+    </message>
+    <message>
+        <source>HARDWARE ADDRESS</source>
+        <translation>ADRESSE MATÉRIELLE</translation>
+    </message>
+    <message>
+        <source>LINK</source>
+        <translation>LIAISON</translation>
+    </message>
+    <message>
+        <source>HARDWARE</source>
+        <translation>MATÉRIEL</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>État&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>Mode&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IP Address:</source>
+        <translation>Adresse IP&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Subnet Mask:</source>
+        <translation>Masque&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Passerelle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>DNS:</source>
+        <translation>DNS&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Search Domains:</source>
+        <translation>Domaines&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No saved profiles.</source>
+        <translation>Aucun profil enregistré.</translation>
+    </message>
+    <message>
+        <source>PROFILE</source>
+        <translation>PROFIL</translation>
+    </message>
+    <message>
+        <source>IPV4</source>
+        <translation>IPV4</translation>
+    </message>
+    <message>
+        <source>DNS</source>
+        <translation>DNS</translation>
+    </message>
+    <message>
+        <source>The change has been taken back.</source>
+        <translation>La modification a été annulée.</translation>
+    </message>
+    <message>
+        <source>The change is no longer on trial.</source>
+        <translation>La modification n’est plus à l’essai.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Keep this change? Enter keeps it, u and Enter takes it back; so does waiting %n s. </source>
+        <translation>
+            <numerusform>Conserver cette modification&#x202f;? Entrée la conserve, u puis Entrée l’annule&#x202f;; attendre %n s aussi. </numerusform>
+            <numerusform>Conserver cette modification&#x202f;? Entrée la conserve, u puis Entrée l’annule&#x202f;; attendre %n s aussi. </numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The change is taken back in %n s. &quot;ardeoctl confirm&quot; keeps it, &quot;ardeoctl undo&quot; takes it back at once.</source>
+        <translation>
+            <numerusform>La modification sera annulée dans %n seconde. «&#xa0;ardeoctl confirm&#xa0;» la conserve, «&#xa0;ardeoctl undo&#xa0;» l’annule aussitôt.</numerusform>
+            <numerusform>La modification sera annulée dans %n secondes. «&#xa0;ardeoctl confirm&#xa0;» la conserve, «&#xa0;ardeoctl undo&#xa0;» l’annule aussitôt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>--profiles needs --profile.</source>
+        <translation>--profiles exige --profile.</translation>
+    </message>
+    <message>
+        <source>--dry-run changes nothing, and takes no --confirm-within.</source>
+        <translation>--dry-run ne change rien et n’accepte pas --confirm-within.</translation>
+    </message>
+    <message>
+        <source>the same with the settings of a saved profile, or of one that was exported</source>
+        <translation>de même avec les réglages d’un profil enregistré, ou d’un profil exporté</translation>
+    </message>
+    <message>
+        <source>one line for each change of a service, until it is ended</source>
+        <translation>une ligne pour chaque changement d’un service, jusqu’à l’arrêt</translation>
+    </message>
+    <message>
+        <source>For scripts (apply):</source>
+        <translation>Pour les scripts (apply)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>only say what would change; nobody is asked for a password</source>
+        <translation>dire seulement ce qui changerait&#x202f;; aucun mot de passe n’est demandé</translation>
+    </message>
+    <message>
+        <source>whether something has changed, and what</source>
+        <translation>si quelque chose a changé, et quoi</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>Impossible de lire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is no list of profiles.</source>
+        <translation>%1 n’est pas une liste de profils.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>IP Address</source>
+        <translation>Adresse IP</translation>
+    </message>
+    <message>
+        <source>Subnet Mask</source>
+        <translation>Masque</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>Passerelle</translation>
+    </message>
+    <message>
+        <source>Preferred DNS</source>
+        <translation>DNS préféré</translation>
+    </message>
+    <message>
+        <source>Alternate DNS</source>
+        <translation>DNS auxiliaire</translation>
+    </message>
+    <message>
+        <source>Search Domains</source>
+        <translation>Domaines</translation>
+    </message>
+    <message>
+        <source>DHCP Server</source>
+        <translation>Serveur DHCP</translation>
+    </message>
+    <message>
+        <source>Computer Name</source>
+        <translation>Ordinateur</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Nothing to do: &apos;%1&apos; has these settings already.</source>
+        <translation>Rien à faire&#xa0;: «&#xa0;%1&#xa0;» a déjà ces réglages.</translation>
+    </message>
+    <message>
+        <source>The settings are saved already, and would be brought into force.</source>
+        <translation>Les réglages sont déjà enregistrés et seraient mis en vigueur.</translation>
+    </message>
+    <message>
+        <source>Only settings that are not shown here would change.</source>
+        <translation>Seuls des réglages qui ne sont pas affichés ici changeraient.</translation>
+    </message>
+    <message>
+        <source>, on trial</source>
+        <translation>, à l’essai</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>The network service answers again.</source>
+        <translation>Le service réseau répond de nouveau.</translation>
+    </message>
+    <message>
+        <source>added, %1</source>
+        <translation>ajouté, %1</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>retiré</translation>
+    </message>
+</context>
+<context>
     <name>ardeo::DescribedError</name>
     <message>
         <source>Waiting for another program that is changing the network settings. It is process %1.</source>
@@ -225,7 +685,7 @@ Fonctionne sur : %2</translation>
     <name>ardeo::FileUserDefaults</name>
     <message>
         <source>Your profiles could not be saved: %1.</source>
-        <translation>Vos profils n’ont pas pu être enregistrés : %1.</translation>
+        <translation>Vos profils n’ont pas pu être enregistrés&#xa0;: %1.</translation>
     </message>
     <message>
         <source>those stored before cannot be read</source>
@@ -238,7 +698,7 @@ Fonctionne sur : %2</translation>
         <source>Ardeo IP Config is a native {system} utility for quickly switching network adapter configurations. Switch between DHCP and static IP in seconds — ideal for IT professionals, developers, and power users who work across multiple network environments such as office, home, VPN, or lab setups.
 
 Settings are applied instantly through {configuration}. No restarts required.</source>
-        <translation>Ardeo IP Config est un utilitaire natif pour {system} qui change rapidement la configuration des interfaces réseau. Passez de DHCP à une adresse IP statique en quelques secondes — idéal pour les informaticiens, les développeurs et les utilisateurs avancés qui travaillent dans plusieurs environnements réseau : bureau, domicile, VPN ou laboratoire.
+        <translation>Ardeo IP Config est un utilitaire natif pour {system} qui change rapidement la configuration des interfaces réseau. Passez de DHCP à une adresse IP statique en quelques secondes — idéal pour les informaticiens, les développeurs et les utilisateurs avancés qui travaillent dans plusieurs environnements réseau&#xa0;: bureau, domicile, VPN ou laboratoire.
 
 Les réglages sont appliqués immédiatement par {configuration}. Aucun redémarrage n’est nécessaire.</translation>
     </message>
@@ -308,7 +768,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>{IconPlace} access</source>
-        <translation>{IconPlace} : accès</translation>
+        <translation>{IconPlace}&#xa0;: accès</translation>
     </message>
     <message>
         <source>Quick access from the {iconPlace} icon at all times</source>
@@ -336,7 +796,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>Choose &quot;Automatically Set IP Address&quot; for DHCP, or &quot;Manually Set IP Address&quot; to enter a static IP, subnet mask, and gateway. Set DNS in the same way below.</source>
-        <translation>Choisissez « Adresse IP automatique » pour DHCP, ou « Adresse IP manuelle » pour saisir une adresse IP statique, un masque et une passerelle. Réglez le DNS de la même façon au-dessous.</translation>
+        <translation>Choisissez «&#xa0;Adresse IP automatique&#xa0;» pour DHCP, ou «&#xa0;Adresse IP manuelle&#xa0;» pour saisir une adresse IP statique, un masque et une passerelle. Réglez le DNS de la même façon au-dessous.</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -344,7 +804,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>Click the Apply button (top-right) or press {apply}. The interface briefly reconfigures; the Current Adapter Properties card refreshes automatically after ~4 seconds.</source>
-        <translation>Cliquez sur « Appliquer » (en haut à droite) ou appuyez sur {apply}. L’interface se reconfigure brièvement ; la carte « Propriétés actuelles de l’interface » s’actualise automatiquement après 4 secondes environ.</translation>
+        <translation>Cliquez sur «&#xa0;Appliquer&#xa0;» (en haut à droite) ou appuyez sur {apply}. L’interface se reconfigure brièvement&#x202f;; la carte «&#xa0;Propriétés actuelles de l’interface&#xa0;» s’actualise automatiquement après 4 secondes environ.</translation>
     </message>
     <message>
         <source>Save a Profile</source>
@@ -352,7 +812,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>Click &quot;Save Profile…&quot; at the bottom of the left panel. Give the preset a name — it appears in the profiles list immediately.</source>
-        <translation>Cliquez sur « Enregistrer… » en bas du panneau de gauche. Donnez un nom au profil — il apparaît aussitôt dans la liste.</translation>
+        <translation>Cliquez sur «&#xa0;Enregistrer…&#xa0;» en bas du panneau de gauche. Donnez un nom au profil — il apparaît aussitôt dans la liste.</translation>
     </message>
     <message>
         <source>Load a Profile</source>
@@ -360,7 +820,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>Click any profile row to populate the form fields. Then click Apply to activate it on the selected adapter.</source>
-        <translation>Cliquez sur un profil pour remplir les champs. Cliquez ensuite sur « Appliquer » pour l’activer sur l’interface choisie.</translation>
+        <translation>Cliquez sur un profil pour remplir les champs. Cliquez ensuite sur «&#xa0;Appliquer&#xa0;» pour l’activer sur l’interface choisie.</translation>
     </message>
     <message>
         <source>Manage Profiles</source>
@@ -376,7 +836,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>In the Current Adapter Properties card, use the &quot;Enable Adapter&quot; or &quot;Disable Adapter&quot; button. Green = re-enable, Red = disable.</source>
-        <translation>Dans la carte « Propriétés actuelles de l’interface », utilisez le bouton « Activer l’interface » ou « Désactiver l’interface ». Vert = réactiver, rouge = désactiver.</translation>
+        <translation>Dans la carte «&#xa0;Propriétés actuelles de l’interface&#xa0;», utilisez le bouton «&#xa0;Activer l’interface&#xa0;» ou «&#xa0;Désactiver l’interface&#xa0;». Vert = réactiver, rouge = désactiver.</translation>
     </message>
     <message>
         <source>Renew DHCP</source>
@@ -384,7 +844,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>Visible in the Set Profile Properties card when the adapter is in DHCP mode. Forces a fresh IP lease from the router.</source>
-        <translation>Visible dans la carte « Définir les propriétés du profil » quand l’interface est en mode DHCP. Force un nouveau bail IP du routeur.</translation>
+        <translation>Visible dans la carte «&#xa0;Définir les propriétés du profil&#xa0;» quand l’interface est en mode DHCP. Force un nouveau bail IP du routeur.</translation>
     </message>
     <message>
         <source>Network configuration made fast.</source>
@@ -457,7 +917,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>Delete &quot;%1&quot;</source>
-        <translation>Supprimer « %1 »</translation>
+        <translation>Supprimer «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -547,7 +1007,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     <name>ardeo::MainViewModel</name>
     <message>
         <source>Nobody confirmed the change of &apos;%1&apos;, so it was taken back.</source>
-        <translation>Personne n’a confirmé la modification de « %1 » ; elle a donc été annulée.</translation>
+        <translation>Personne n’a confirmé la modification de «&#xa0;%1&#xa0;»&#x202f;; elle a donc été annulée.</translation>
     </message>
     <message>
         <source>Export Ardeo IP Config profiles</source>
@@ -563,7 +1023,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>Start at login: %1</source>
-        <translation>Lancement à l’ouverture de session : %1</translation>
+        <translation>Lancement à l’ouverture de session&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -654,15 +1114,15 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>IP Address:</source>
-        <translation>Adresse IP :</translation>
+        <translation>Adresse IP&#xa0;:</translation>
     </message>
     <message>
         <source>Subnet Mask:</source>
-        <translation>Masque :</translation>
+        <translation>Masque&#xa0;:</translation>
     </message>
     <message>
         <source>Gateway:</source>
-        <translation>Passerelle :</translation>
+        <translation>Passerelle&#xa0;:</translation>
     </message>
     <message>
         <source>DNS</source>
@@ -678,11 +1138,11 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>Preferred DNS:</source>
-        <translation>DNS préféré :</translation>
+        <translation>DNS préféré&#xa0;:</translation>
     </message>
     <message>
         <source>Alternate DNS:</source>
-        <translation>DNS auxiliaire :</translation>
+        <translation>DNS auxiliaire&#xa0;:</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -728,7 +1188,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>The system to work on: auto, networkmanager or simulated.</source>
-        <translation>Le système sur lequel travailler : auto, networkmanager ou simulated.</translation>
+        <translation>Le système sur lequel travailler&#xa0;: auto, networkmanager ou simulated.</translation>
     </message>
     <message>
         <source>The simulated machine&apos;s file.</source>
@@ -778,7 +1238,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>Disable %1?</source>
-        <translation>Désactiver %1 ?</translation>
+        <translation>Désactiver %1&#x202f;?</translation>
     </message>
     <message>
         <source>Adapter</source>
@@ -786,7 +1246,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>This will disconnect %1 from the network.</source>
-        <translation>Cette action déconnecte du réseau : %1.</translation>
+        <translation>Cette action déconnecte du réseau&#xa0;: %1.</translation>
     </message>
     <message>
         <source>the adapter</source>
@@ -816,11 +1276,11 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>%1 is missing.</source>
-        <translation>%1 : valeur manquante.</translation>
+        <translation>%1&#xa0;: valeur manquante.</translation>
     </message>
     <message>
         <source>%1 is not complete.</source>
-        <translation>%1 : valeur incomplète.</translation>
+        <translation>%1&#xa0;: valeur incomplète.</translation>
     </message>
     <message>
         <source>%1 is not an IPv4 address.</source>
@@ -880,11 +1340,11 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>&quot;%1&quot; is not a search domain.</source>
-        <translation>« %1 » n’est pas un domaine de recherche.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un domaine de recherche.</translation>
     </message>
     <message>
         <source>A service whose IPv4 is &quot;%1&quot; takes no DNS servers.</source>
-        <translation>Un service dont l’IPv4 est « %1 » n’accepte pas de serveurs DNS.</translation>
+        <translation>Un service dont l’IPv4 est «&#xa0;%1&#xa0;» n’accepte pas de serveurs DNS.</translation>
     </message>
     <message>
         <source>No change of it awaits confirmation.</source>
@@ -892,7 +1352,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>An earlier change of it awaits confirmation; confirm it or take it back first.</source>
-        <translation>Une modification précédente attend une confirmation ; confirmez-la ou annulez-la d’abord.</translation>
+        <translation>Une modification précédente attend une confirmation&#x202f;; confirmez-la ou annulez-la d’abord.</translation>
     </message>
 </context>
 <context>
@@ -994,7 +1454,7 @@ Les réglages sont appliqués immédiatement par {configuration}. Aucun redémar
     </message>
     <message>
         <source>NetworkManager is not running; --system=simulated works without it.</source>
-        <translation>NetworkManager n’est pas en cours d’exécution ; --system=simulated fonctionne sans lui.</translation>
+        <translation>NetworkManager n’est pas en cours d’exécution&#x202f;; --system=simulated fonctionne sans lui.</translation>
     </message>
     <message>
         <source>The simulated machine&apos;s file %1 cannot be read.</source>

@@ -1,5 +1,7 @@
 #include "cli/Arguments.h"
 
+#include "cli/Output.h"
+
 #include <QCommandLineParser>
 #include <QHash>
 
@@ -50,23 +52,23 @@ const QHash<QString, CommandForm> commandForms{
 QString takeWords(Arguments& arguments, QString& name, QStringList words)
 {
     if (words.isEmpty())
-        return QStringLiteral("A command is missing; see ardeoctl --help.");
+        return Console::tr("A command is missing; see ardeoctl --help.");
     name = words.takeFirst();
     if (name == QStringLiteral("profiles") && words.value(0) == QStringLiteral("export"))
         name += u' ' + words.takeFirst();
     const auto form = commandForms.constFind(name);
     if (form == commandForms.constEnd())
-        return QStringLiteral("There is no command '%1'; see ardeoctl --help.").arg(name);
+        return Console::tr("There is no command '%1'; see ardeoctl --help.").arg(name);
     arguments.command = form->command;
     const bool isOptional = form->argument.startsWith(u'[');
     if (!form->argument.isEmpty() && !(isOptional && words.isEmpty())) {
         if (words.isEmpty())
-            return QStringLiteral("'%1' needs a %2.").arg(name, form->argument);
+            return Console::tr("'%1' needs a %2.").arg(name, form->argument);
         const QString word = words.takeFirst();
         (form->command == Command::exportProfiles ? arguments.file : arguments.service) = word;
     }
     if (!words.isEmpty())
-        return QStringLiteral("'%1' takes no '%2'.").arg(name, words.first());
+        return Console::tr("'%1' takes no '%2'.").arg(name, words.first());
     return {};
 }
 
@@ -74,14 +76,14 @@ QString takeSystem(Arguments& arguments, const QCommandLineParser& parser)
 {
     const auto system = systemChoiceFromText(parser.value(QStringLiteral("system")));
     if (!system)
-        return QStringLiteral("--system is auto, networkmanager or simulated.");
+        return Console::tr("--system is auto, networkmanager or simulated.");
     arguments.system = *system;
     if (parser.isSet(QStringLiteral("state"))) {
         arguments.stateFile = parser.value(QStringLiteral("state"));
         if (arguments.system != SystemChoice::simulated)
-            return QStringLiteral("--state goes with --system=simulated.");
+            return Console::tr("--state goes with --system=simulated.");
         if (arguments.stateFile->isEmpty())
-            return QStringLiteral("--state needs a file.");
+            return Console::tr("--state needs a file.");
     }
     return {};
 }
@@ -103,7 +105,7 @@ QString takeSettings(Arguments& arguments, const QCommandLineParser& parser)
         bool isNumber = false;
         arguments.confirmWithin = std::chrono::seconds(time->toInt(&isNumber));
         if (!isNumber || *arguments.confirmWithin < shortestTrial || *arguments.confirmWithin > longestTrial)
-            return QStringLiteral("--confirm-within takes 5 to 3600 seconds.");
+            return Console::tr("--confirm-within takes 5 to 3600 seconds.");
     }
     if (const auto dns = valueOf(QStringLiteral("dns"))) {
         arguments.automaticDNS = *dns == QStringLiteral("auto");
@@ -114,21 +116,34 @@ QString takeSettings(Arguments& arguments, const QCommandLineParser& parser)
     const bool addressed = arguments.address || arguments.mask;
     if (arguments.profile && (arguments.dhcp || addressed || arguments.router || arguments.search ||
                               parser.isSet(QStringLiteral("dns"))))
-        return QStringLiteral("--profile brings all settings along and takes no others beside it.");
+        return Console::tr("--profile brings all settings along and takes no others beside it.");
     if (arguments.profilesFile && !arguments.profile)
-        return QStringLiteral("--profiles needs --profile.");
+        return Console::tr("--profiles needs --profile.");
     if (arguments.dryRun && arguments.confirmWithin)
-        return QStringLiteral("--dry-run changes nothing, and takes no --confirm-within.");
+        return Console::tr("--dry-run changes nothing, and takes no --confirm-within.");
     if (arguments.dhcp && (addressed || arguments.router))
-        return QStringLiteral("--dhcp takes no --address, --mask or --router.");
+        return Console::tr("--dhcp takes no --address, --mask or --router.");
     if (addressed && !(arguments.address && arguments.mask))
-        return QStringLiteral("A manual address takes both --address and --mask.");
+        return Console::tr("A manual address takes both --address and --mask.");
     if (arguments.dns && arguments.dns->size() > 2)
-        return QStringLiteral("--dns takes two servers at most.");
+        return Console::tr("--dns takes two servers at most.");
     if (arguments.automaticDNS && arguments.search && !arguments.search->trimmed().isEmpty())
-        return QStringLiteral(
-            "--search needs DNS servers of its own: automatic DNS keeps no search domains.");
+        return Console::tr("--search needs DNS servers of its own: automatic DNS keeps no search domains.");
     return {};
+}
+
+/// A part of the help: a heading, and lines of what is typed and what that does.
+QString helpSection(const QString& heading, std::initializer_list<std::pair<const char*, QString>> lines)
+{
+    constexpr int width = 28;
+    QStringList text{heading};
+    for (const auto& [form, meaning] : lines) {
+        if (QLatin1String(form).size() <= width)
+            text << QStringLiteral("  %1  ").arg(QLatin1String(form), -width) + meaning;
+        else
+            text << QStringLiteral("  ") + QLatin1String(form) << QString(width + 4, u' ') + meaning;
+    }
+    return text.join(u'\n');
 }
 
 } // namespace
@@ -174,7 +189,7 @@ std::variant<Arguments, UsageError> parseArguments(const QStringList& commandLin
     const QStringList allowed = commandForms.value(name).options;
     for (const QString& option : applyOptions) {
         if (parser.isSet(option) && !allowed.contains(option))
-            return UsageError{QStringLiteral("'%1' takes no --%2.").arg(name, option)};
+            return UsageError{Console::tr("'%1' takes no --%2.").arg(name, option)};
     }
     arguments.json = parser.isSet(QStringLiteral("json"));
     error = takeSettings(arguments, parser);
@@ -185,48 +200,67 @@ std::variant<Arguments, UsageError> parseArguments(const QStringList& commandLin
 
 QString helpText()
 {
-    return QStringLiteral(R"(Usage: ardeoctl [--system=SYSTEM] [--state=FILE] COMMAND
-
-Switches the IPv4 and DNS settings of this computer's network services.
-
-Commands:
-  list [--json]                 the network services, connected ones first
-  show SERVICE [--json]         the settings and the state of one service
-  apply SERVICE [SETTINGS]      change a service; what is not named keeps its present value
-  apply SERVICE --profile=NAME [--profiles=FILE]
-                                the same with the settings of a saved profile, or of one that was exported
-  renew SERVICE                 put the service on DHCP and take a new lease
-  enable SERVICE                switch the service on
-  disable SERVICE               switch the service off, and keep it off
-  watch [--json]                one line for each change of a service, until it is ended
-  confirm [SERVICE]             keep what was changed on trial, of one service or of all
-  undo [SERVICE]                take it back at once
-  profiles [--json]             the saved profiles
-  profiles export FILE          write them to a file
-
-Settings:
-  --dhcp                        take the address from the network
-  --address=A --mask=M          a manual address with its dotted mask
-  --router=R                    the gateway of a manual address; --router= for none
-  --dns=auto                    take the DNS servers from the network
-  --dns=A[,B]                   DNS servers set by hand
-  --search="D D"                search domains, with DNS servers set by hand
-
-For scripts (apply):
-  --dry-run                     only say what would change; nobody is asked for a password
-  --json                        whether something has changed, and what
-
-Trial (apply, renew, enable, disable):
-  --confirm-within=SECONDS      take the change back by itself unless it is confirmed in time
-
-Systems:
-  --system=auto                 NetworkManager, with advice where it is not running (the default)
-  --system=networkmanager       this computer
-  --system=simulated            a simulated machine, for trying things out
-  --state=FILE                  the file that the simulated machine lives in
-
-Exit status: 0 when done, 1 when it failed (the reason is on standard error), 2 for wrong usage.
-)");
+    const QString separator = QStringLiteral("\n\n");
+    return Console::tr("Usage: ardeoctl [--system=SYSTEM] [--state=FILE] COMMAND") + separator +
+           Console::tr("Switches the IPv4 and DNS settings of this computer's network services.") +
+           separator +
+           helpSection(
+               Console::tr("Commands:"),
+               {
+                   {"list [--json]", Console::tr("the network services, connected ones first")},
+                   {"show SERVICE [--json]", Console::tr("the settings and the state of one service")},
+                   {"apply SERVICE [SETTINGS]",
+                    Console::tr("change a service; what is not named keeps its present value")},
+                   {"apply SERVICE --profile=NAME [--profiles=FILE]",
+                    Console::tr(
+                        "the same with the settings of a saved profile, or of one that was exported")},
+                   {"renew SERVICE", Console::tr("put the service on DHCP and take a new lease")},
+                   {"enable SERVICE", Console::tr("switch the service on")},
+                   {"disable SERVICE", Console::tr("switch the service off, and keep it off")},
+                   {"watch [--json]",
+                    Console::tr("one line for each change of a service, until it is ended")},
+                   {"confirm [SERVICE]",
+                    Console::tr("keep what was changed on trial, of one service or of all")},
+                   {"undo [SERVICE]", Console::tr("take it back at once")},
+                   {"profiles [--json]", Console::tr("the saved profiles")},
+                   {"profiles export FILE", Console::tr("write them to a file")},
+               }) +
+           separator +
+           helpSection(Console::tr("Settings:"),
+                       {
+                           {"--dhcp", Console::tr("take the address from the network")},
+                           {"--address=A --mask=M", Console::tr("a manual address with its dotted mask")},
+                           {"--router=R", Console::tr("the gateway of a manual address; --router= for none")},
+                           {"--dns=auto", Console::tr("take the DNS servers from the network")},
+                           {"--dns=A[,B]", Console::tr("DNS servers set by hand")},
+                           {"--search=\"D D\"", Console::tr("search domains, with DNS servers set by hand")},
+                       }) +
+           separator +
+           helpSection(
+               Console::tr("For scripts (apply):"),
+               {
+                   {"--dry-run", Console::tr("only say what would change; nobody is asked for a password")},
+                   {"--json", Console::tr("whether something has changed, and what")},
+               }) +
+           separator +
+           helpSection(Console::tr("Trial (apply, renew, enable, disable):"),
+                       {
+                           {"--confirm-within=SECONDS",
+                            Console::tr("take the change back by itself unless it is confirmed in time")},
+                       }) +
+           separator +
+           helpSection(Console::tr("Systems:"),
+                       {
+                           {"--system=auto",
+                            Console::tr("NetworkManager, with advice where it is not running (the default)")},
+                           {"--system=networkmanager", Console::tr("this computer")},
+                           {"--system=simulated", Console::tr("a simulated machine, for trying things out")},
+                           {"--state=FILE", Console::tr("the file that the simulated machine lives in")},
+                       }) +
+           separator +
+           Console::tr("Exit status: 0 when done, 1 when it failed (the reason is on standard error), 2 for "
+                       "wrong usage.") +
+           u'\n';
 }
 
 } // namespace ardeo

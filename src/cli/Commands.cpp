@@ -85,7 +85,7 @@ public:
             output += act(m_model->endTrial(keep));
         }
         if (output.isEmpty())
-            fail(QStringLiteral("No change awaits confirmation."));
+            fail(Console::tr("No change awaits confirmation."));
         return output;
     }
 
@@ -102,7 +102,7 @@ public:
         const QByteArray bytes = encoded();
         QFile file(m_arguments.file);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
-            fail(QStringLiteral("Cannot write %1: %2.").arg(m_arguments.file, file.errorString()));
+            fail(Console::tr("Cannot write %1: %2.").arg(m_arguments.file, file.errorString()));
         return {};
     }
 
@@ -119,7 +119,7 @@ private:
     void throwIfUnreadable() const
     {
         if (m_model->presetStore.isUnreadable())
-            fail(QStringLiteral("The saved profiles cannot be read."));
+            fail(Console::tr("The saved profiles cannot be read."));
     }
 
     void listServices()
@@ -178,7 +178,7 @@ private:
     {
         const auto bytes = encodePresets(m_model->presetStore.presets());
         if (!bytes)
-            fail(QStringLiteral("A profile holds text that is not valid Unicode."));
+            fail(Console::tr("A profile holds text that is not valid Unicode."));
         return *bytes;
     }
 

@@ -16,15 +16,15 @@ QList<NetworkPreset> presetsOf(const Arguments& arguments, const MainViewModel& 
 {
     if (!arguments.profilesFile) {
         if (model.presetStore.isUnreadable())
-            fail(QStringLiteral("The saved profiles cannot be read."));
+            fail(Console::tr("The saved profiles cannot be read."));
         return model.presetStore.presets();
     }
     QFile file(*arguments.profilesFile);
     if (!file.open(QIODevice::ReadOnly))
-        fail(QStringLiteral("Cannot read %1: %2.").arg(file.fileName(), file.errorString()));
+        fail(Console::tr("Cannot read %1: %2.").arg(file.fileName(), file.errorString()));
     const auto presets = decodePresets(file.readAll());
     if (!presets)
-        fail(QStringLiteral("%1 is no list of profiles.").arg(file.fileName()));
+        fail(Console::tr("%1 is no list of profiles.").arg(file.fileName()));
     return *presets;
 }
 
@@ -34,9 +34,9 @@ NetworkPreset namedPreset(const Arguments& arguments, const MainViewModel& model
     const Text name(*arguments.profile);
     const auto count = std::ranges::count(presets, name, &NetworkPreset::name);
     if (count == 0)
-        failUsage(QStringLiteral("There is no profile '%1'.").arg(*arguments.profile));
+        failUsage(Console::tr("There is no profile '%1'.").arg(*arguments.profile));
     if (count > 1)
-        failUsage(QStringLiteral("%1 profiles are named '%2'.").arg(count).arg(*arguments.profile));
+        failUsage(Console::tr("%1 profiles are named '%2'.").arg(count).arg(*arguments.profile));
     return *std::ranges::find(presets, name, &NetworkPreset::name);
 }
 
@@ -58,7 +58,7 @@ Settings takeAddress(const Arguments& arguments, MainViewModel& model)
     }
     if (arguments.router) {
         if (model.ipv4Mode.value() == IPv4Mode::dhcp)
-            failUsage(QStringLiteral("--router needs --address and --mask."));
+            failUsage(Console::tr("--router needs --address and --mask."));
         model.router = *arguments.router;
         named |= Setting::router;
     }
@@ -86,7 +86,7 @@ std::optional<Settings> takeSettings(const Arguments& arguments, MainViewModel& 
     }
     if (arguments.search) {
         if (model.dnsMode.value() == DNSMode::automatic && !arguments.search->trimmed().isEmpty())
-            failUsage(QStringLiteral("--search needs --dns: automatic DNS keeps no search domains."));
+            failUsage(Console::tr("--search needs --dns: automatic DNS keeps no search domains."));
         model.searchDomains = *arguments.search;
         named |= Setting::searchDomains;
     }

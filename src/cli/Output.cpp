@@ -63,6 +63,16 @@ QString table(QList<Row> rows, bool colour)
     return text;
 }
 
+QString nameOf(IPv4Mode mode)
+{
+    return mode == IPv4Mode::manual ? Console::tr("Manual") : Console::tr("DHCP");
+}
+
+QString nameOf(DNSMode mode)
+{
+    return mode == DNSMode::manual ? Console::tr("Manual") : Console::tr("Automatic");
+}
+
 QString orDash(const QString& text)
 {
     return text.isEmpty() ? QStringLiteral("—") : text;
@@ -71,19 +81,17 @@ QString orDash(const QString& text)
 Cell stateOf(const AdapterInfo& adapter, std::chrono::nanoseconds now)
 {
     const auto seconds = adapter.secondsToConfirm(now);
-    const QString trial = seconds ? QStringLiteral(", %1 s to confirm").arg(*seconds) : QString();
+    const QString trial =
+        seconds ? Console::tr(", %n s to confirm", nullptr, static_cast<int>(*seconds)) : QString();
     return {stateText(adapter) + trial, adapter.isActive ? Tint::good : Tint::faint};
 }
 
 QString labelOf(const QString& settingKey)
 {
     static const QHash<QString, QString> labels{
-        {configMethodKey, QStringLiteral("Mode:")},
-        {addressesKey, QStringLiteral("IP Address:")},
-        {subnetMasksKey, QStringLiteral("Subnet Mask:")},
-        {routerKey, QStringLiteral("Gateway:")},
-        {serverAddressesKey, QStringLiteral("DNS:")},
-        {searchDomainsKey, QStringLiteral("Search Domains:")},
+        {configMethodKey, Console::tr("Mode:")},       {addressesKey, Console::tr("IP Address:")},
+        {subnetMasksKey, Console::tr("Subnet Mask:")}, {routerKey, Console::tr("Gateway:")},
+        {serverAddressesKey, Console::tr("DNS:")},     {searchDomainsKey, Console::tr("Search Domains:")},
     };
     return labels.value(settingKey);
 }
@@ -92,10 +100,10 @@ QString linkOf(const AdapterInfo& adapter)
 {
     QStringList words;
     if (const auto speed = adapter.linkSpeedMbps)
-        words << (*speed % 1000 == 0 ? QStringLiteral("%1 Gb/s").arg(*speed / 1000)
-                                     : QStringLiteral("%1 Mb/s").arg(*speed));
+        words << (*speed % 1000 == 0 ? Console::tr("%1 Gb/s").arg(*speed / 1000)
+                                     : Console::tr("%1 Mb/s").arg(*speed));
     if (adapter.fullDuplex)
-        words << (*adapter.fullDuplex ? QStringLiteral("full-duplex") : QStringLiteral("half-duplex"));
+        words << (*adapter.fullDuplex ? Console::tr("full-duplex") : Console::tr("half-duplex"));
     return words.join(u' ');
 }
 
@@ -113,14 +121,14 @@ QString printable(QString text)
 QString adaptersAsTable(const QList<AdapterInfo>& adapters, std::chrono::nanoseconds now, bool colour)
 {
     if (adapters.isEmpty())
-        return QStringLiteral("No network services.\n");
+        return Console::tr("No network services.") + u'\n';
     QList<Row> rows{{
-        {QStringLiteral("SERVICE"), Tint::faint},
-        {QStringLiteral("STATE"), Tint::faint},
-        {QStringLiteral("DEVICE"), Tint::faint},
-        {QStringLiteral("HARDWARE ADDRESS"), Tint::faint},
-        {QStringLiteral("LINK"), Tint::faint},
-        {QStringLiteral("HARDWARE"), Tint::faint},
+        {Console::tr("SERVICE"), Tint::faint},
+        {Console::tr("STATE"), Tint::faint},
+        {Console::tr("DEVICE"), Tint::faint},
+        {Console::tr("HARDWARE ADDRESS"), Tint::faint},
+        {Console::tr("LINK"), Tint::faint},
+        {Console::tr("HARDWARE"), Tint::faint},
     }};
     for (const AdapterInfo& adapter : adapters) {
         rows.append({{adapter.serviceName, Tint::strong},
@@ -138,48 +146,51 @@ QList<std::pair<QString, QString>> fieldsOf(const NetworkAdapterInfo& configurat
     const bool automatic = configuration.dnsMode == DNSMode::automatic;
     const QStringList domains(configuration.searchDomains.begin(), configuration.searchDomains.end());
     return {
-        {QStringLiteral("Mode"), rawValue(configuration.ipv4Mode)},
-        {QStringLiteral("IP Address"), orDash(configuration.ipAddress)},
-        {QStringLiteral("Subnet Mask"), orDash(configuration.subnetMask)},
-        {QStringLiteral("Gateway"), orDash(configuration.router)},
-        {QStringLiteral("DNS"), rawValue(configuration.dnsMode)},
-        {QStringLiteral("Preferred DNS"), orDash(configuration.primaryDNS)},
-        {QStringLiteral("Alternate DNS"), orDash(configuration.alternateDNS)},
-        {QStringLiteral("Search Domains"), orDash(automatic ? QString() : domains.join(u' '))},
-        {QStringLiteral("DHCP Server"), orDash(configuration.dhcpServer)},
-        {QStringLiteral("Computer Name"), orDash(configuration.computerName)},
+        {Console::tr("Mode"), nameOf(configuration.ipv4Mode)},
+        {Console::tr("IP Address"), orDash(configuration.ipAddress)},
+        {Console::tr("Subnet Mask"), orDash(configuration.subnetMask)},
+        {Console::tr("Gateway"), orDash(configuration.router)},
+        {Console::tr("DNS"), nameOf(configuration.dnsMode)},
+        {Console::tr("Preferred DNS"), orDash(configuration.primaryDNS)},
+        {Console::tr("Alternate DNS"), orDash(configuration.alternateDNS)},
+        {Console::tr("Search Domains"), orDash(automatic ? QString() : domains.join(u' '))},
+        {Console::tr("DHCP Server"), orDash(configuration.dhcpServer)},
+        {Console::tr("Computer Name"), orDash(configuration.computerName)},
     };
 }
 
 QString stateText(const AdapterInfo& adapter)
 {
     if (adapter.isActive)
-        return QStringLiteral("connected");
-    return adapter.isEnabled ? QStringLiteral("disconnected") : QStringLiteral("disabled");
+        return Console::tr("connected");
+    return adapter.isEnabled ? Console::tr("disconnected") : Console::tr("disabled");
 }
 
 QString configurationAsTable(const AdapterInfo& adapter, const NetworkAdapterInfo& configuration,
                              std::chrono::nanoseconds now, bool colour)
 {
-    QList<Row> rows{{{QStringLiteral("State:"), Tint::faint}, stateOf(adapter, now)}};
+    QList<Row> rows{{{Console::tr("State:"), Tint::faint}, stateOf(adapter, now)}};
     for (const auto& [label, value] : fieldsOf(configuration))
-        rows.append({{label + u':', Tint::faint}, {value}});
+        rows.append({{Console::tr("%1:").arg(label), Tint::faint}, {value}});
     return tinted(printable(adapter.serviceName), Tint::strong, colour) + u'\n' + table(rows, colour);
 }
 
 QString planAsText(const ChangePlan& plan, const QString& serviceName)
 {
     if (!plan.isNeeded())
-        return QStringLiteral("Nothing to do: '%1' has these settings already.\n")
-            .arg(printable(serviceName));
+        return Console::tr("Nothing to do: '%1' has these settings already.").arg(printable(serviceName)) +
+               u'\n';
     if (!plan.isChange)
-        return QStringLiteral("The settings are saved already, and would be brought into force.\n");
+        return Console::tr("The settings are saved already, and would be brought into force.") + u'\n';
     if (plan.changes.isEmpty())
-        return QStringLiteral("Only settings that are not shown here would change.\n");
+        return Console::tr("Only settings that are not shown here would change.") + u'\n';
     const auto valueOf = [](const SettingChange& change, const QStringList& value) {
+        const auto mode = modeFromRawValue<IPv4Mode>(value.value(0));
+        if (change.key == configMethodKey && mode)
+            return nameOf(*mode);
         if (!value.isEmpty())
             return value.join(u' ');
-        return change.key == serverAddressesKey ? rawValue(DNSMode::automatic) : QStringLiteral("—");
+        return change.key == serverAddressesKey ? nameOf(DNSMode::automatic) : QStringLiteral("—");
     };
     QList<Row> rows;
     for (const SettingChange& change : plan.changes)
@@ -192,12 +203,12 @@ QString planAsText(const ChangePlan& plan, const QString& serviceName)
 QString presetsAsTable(const QList<NetworkPreset>& presets, bool colour)
 {
     if (presets.isEmpty())
-        return QStringLiteral("No saved profiles.\n");
+        return Console::tr("No saved profiles.") + u'\n';
     QList<Row> rows{{
-        {QStringLiteral("PROFILE"), Tint::faint},
-        {QStringLiteral("SERVICE"), Tint::faint},
-        {QStringLiteral("IPV4"), Tint::faint},
-        {QStringLiteral("DNS"), Tint::faint},
+        {Console::tr("PROFILE"), Tint::faint},
+        {Console::tr("SERVICE"), Tint::faint},
+        {Console::tr("IPV4"), Tint::faint},
+        {Console::tr("DNS"), Tint::faint},
     }};
     for (const NetworkPreset& preset : presets) {
         const bool manual = preset.ipv4Mode == IPv4Mode::manual;
@@ -205,8 +216,8 @@ QString presetsAsTable(const QList<NetworkPreset>& presets, bool colour)
         servers.removeAll(QString());
         rows.append({{preset.name, Tint::strong},
                      {preset.serviceName},
-                     {manual ? preset.ipAddress.string() : rawValue(preset.ipv4Mode)},
-                     {preset.dnsMode == DNSMode::manual ? servers.join(u' ') : rawValue(preset.dnsMode)}});
+                     {manual ? preset.ipAddress.string() : nameOf(preset.ipv4Mode)},
+                     {preset.dnsMode == DNSMode::manual ? servers.join(u' ') : nameOf(preset.dnsMode)}});
     }
     return table(rows, colour);
 }

@@ -5,10 +5,17 @@
 #include "backend/NetworkAdapterInfo.h"
 #include "backend/NetworkPreset.h"
 
+#include <QCoreApplication>
+
 #include <chrono>
 
 namespace ardeo
 {
+
+/// Gives the translations of what the console program says their place.
+struct Console {
+    Q_DECLARE_TR_FUNCTIONS(ardeo::Console)
+};
 
 /// The text without characters that would steer the terminal, line breaks among them.
 QString printable(QString text);

@@ -41,6 +41,11 @@ void writeTo(int pipe, const std::string& text)
     [[maybe_unused]] const ssize_t written = write(pipe, text.data(), text.size());
 }
 
+void say(const QString& text)
+{
+    std::fputs(text.toUtf8().constData(), stderr);
+}
+
 /// Says how the trial ended, and returns the exit status that goes with it.
 int end(const std::string& report)
 {
@@ -49,9 +54,9 @@ int end(const std::string& report)
     if (report.starts_with(failed))
         std::fprintf(stderr, "\n%s\n", report.substr(1).c_str());
     else if (report.starts_with(takeBack))
-        std::fputs("\nThe change has been taken back.\n", stderr);
+        say(u'\n' + Console::tr("The change has been taken back.") + u'\n');
     else
-        std::fputs("\nThe change is no longer on trial.\n", stderr);
+        say(u'\n' + Console::tr("The change is no longer on trial.") + u'\n');
     return EXIT_FAILURE;
 }
 
@@ -64,10 +69,10 @@ int ask(int orders, int reports, std::chrono::seconds time)
         const auto left =
             std::chrono::ceil<std::chrono::seconds>(deadline - std::chrono::steady_clock::now());
         if (!isAnswered)
-            std::fprintf(
-                stderr,
-                "\rKeep this change? Enter keeps it, u and Enter takes it back; so does waiting %lld s. ",
-                static_cast<long long>(std::max<std::int64_t>(0, left.count())));
+            say(u'\r' +
+                Console::tr(
+                    "Keep this change? Enter keeps it, u and Enter takes it back; so does waiting %n s. ",
+                    nullptr, std::max(0, static_cast<int>(left.count()))));
         std::array<pollfd, 2> sources{pollfd{reports, POLLIN, 0}, pollfd{STDIN_FILENO, POLLIN, 0}};
         poll(sources.data(), isAnswered ? 1 : 2, isAnswered ? -1 : 1000);
         if (sources[0].revents != 0)
@@ -93,11 +98,10 @@ int ask(int orders, int reports, std::chrono::seconds time)
     const std::chrono::seconds left(std::atoi(report.c_str() + 1));
     if (isatty(STDIN_FILENO) != 0 && isatty(STDERR_FILENO) != 0)
         std::_Exit(ask(orders, reports, left));
-    std::fprintf(
-        stderr,
-        "The change is taken back in %lld s. \"ardeoctl confirm\" keeps it, \"ardeoctl undo\" takes it "
-        "back at once.\n",
-        static_cast<long long>(left.count()));
+    say(Console::tr("The change is taken back in %n s. \"ardeoctl confirm\" keeps it, \"ardeoctl undo\" "
+                    "takes it back at once.",
+                    nullptr, static_cast<int>(left.count())) +
+        u'\n');
     std::_Exit(EXIT_SUCCESS);
 }
 

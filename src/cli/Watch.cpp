@@ -27,8 +27,8 @@ struct Seen {
 /// What is told of a service when it changes.
 QList<std::pair<QString, QString>> tellingFields(const Seen& seen)
 {
-    const QString trial = seen.adapter.confirmBy ? QStringLiteral(", on trial") : QString();
-    QList<std::pair<QString, QString>> fields{{QStringLiteral("State"), stateText(seen.adapter) + trial}};
+    const QString trial = seen.adapter.confirmBy ? Console::tr(", on trial") : QString();
+    QList<std::pair<QString, QString>> fields{{Console::tr("State"), stateText(seen.adapter) + trial}};
     fields.append(fieldsOf(seen.configuration));
     return fields;
 }
@@ -86,7 +86,7 @@ private:
         if (m_asJson)
             tell(troubleAsJson(time(), sentence));
         else
-            tell(line(sentence.isEmpty() ? QStringLiteral("The network service answers again.") : sentence));
+            tell(line(sentence.isEmpty() ? Console::tr("The network service answers again.") : sentence));
     }
 
     void tellDifferences(const std::map<QString, Seen>& before)
@@ -96,13 +96,13 @@ private:
         for (const auto& [name, seen] : m_seen) {
             const auto known = before.find(name);
             if (known == before.end())
-                tellService("added", seen, stateText(seen.adapter));
+                tellService("added", seen, Console::tr("added, %1").arg(stateText(seen.adapter)));
             else if (const QStringList changes = changesBetween(known->second, seen); !changes.isEmpty())
                 tellService("changed", seen, changes.join(QStringLiteral("; ")));
         }
         for (const auto& [name, seen] : before) {
             if (!m_seen.contains(name))
-                tellService("removed", seen, QString());
+                tellService("removed", seen, Console::tr("removed"));
         }
     }
 
@@ -125,11 +125,8 @@ private:
         if (m_asJson)
             tell(eventAsJson(time(), event, seen.adapter,
                              isGone ? std::nullopt : std::optional(seen.configuration)));
-        else if (qstrcmp(event, "changed") == 0)
-            tell(line(name + QStringLiteral(": ") + text));
         else
-            tell(line(name + QStringLiteral(": ") + QLatin1String(event) +
-                      (text.isEmpty() ? QString() : QStringLiteral(", ") + text)));
+            tell(line(name + QStringLiteral(": ") + text));
     }
 
     /// In JSON the date as such, for people the time of day where they are.

@@ -2,6 +2,7 @@
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "cli/TrialGuard.h"
+#include "language/Language.h"
 #include "platform/linux/program/SystemChoice.h"
 
 #include <QCoreApplication>
@@ -46,7 +47,8 @@ Outcome outcomeOf(const std::variant<Arguments, UsageError>& parsed, bool colour
     platform = platformFor(arguments.system, arguments.stateFile, windowProgram());
     if (arguments.command == Arguments::Command::version) {
         const QString text =
-            QStringLiteral("ardeoctl %1 on %2\n").arg(QStringLiteral(ARDEO_VERSION), platform->description);
+            Console::tr("%1 on %2").arg(QStringLiteral("ardeoctl " ARDEO_VERSION), platform->description) +
+            u'\n';
         return {.status = 0, .output = text.toUtf8(), .error = {}, .changed = false, .model = {}};
     }
     return runCommand(arguments, *platform, colour, {printError, print});
@@ -60,12 +62,16 @@ int main(int argc, char** argv)
     QStringList commandLine;
     for (int i = 0; i < argc; ++i)
         commandLine << QString::fromLocal8Bit(argv[i]);
+    const QCoreApplication application(argc, argv);
+    // Before there are two processes, for both say something. What is for programs is in English.
+    std::optional<Language> language;
+    if (!commandLine.contains(QStringLiteral("--json")))
+        language.emplace();
     const auto parsed = parseArguments(commandLine);
     const auto* arguments = std::get_if<Arguments>(&parsed);
     std::optional<TrialGuard> guard;
     if (arguments && arguments->confirmWithin)
         guard.emplace();
-    const QCoreApplication application(argc, argv);
     const bool colour = isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR");
     std::optional<Platform> platform;
     const Outcome outcome = outcomeOf(parsed, colour, platform);
@@ -73,7 +79,7 @@ int main(int argc, char** argv)
         printError(outcome.error);
     const bool written = print(outcome.output) && std::ferror(stdout) == 0;
     if (!written)
-        printError(QStringLiteral("Cannot write the output: %1.").arg(qt_error_string(errno)));
+        printError(Console::tr("Cannot write the output: %1.").arg(qt_error_string(errno)));
     if (guard && outcome.changed)
         guard->watch(outcome.model);
     // The model has a look at the network scheduled for three seconds after a change, and clears away what it
