@@ -41,7 +41,7 @@ IPAddressField::IPAddressField(Observed<Text>& value, const QString& placeholder
     , m_value(value)
     , m_placeholder(placeholder)
 {
-    const QString name = label.endsWith(u':') ? label.chopped(1) : label;
+    const QString name = label.endsWith(u':') ? label.chopped(1).trimmed() : label;
     setAccessibleName(name);
     setLayoutDirection(Qt::LeftToRight); // as addresses are written everywhere
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
