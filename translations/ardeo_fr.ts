@@ -286,10 +286,6 @@ Fonctionne sur&#xa0;: %2</translation>
         <translation>modifier un service&#x202f;; ce qui n’est pas nommé garde sa valeur</translation>
     </message>
     <message>
-        <source>the same with the settings of a saved profile</source>
-        <translation>de même avec les réglages d’un profil enregistré</translation>
-    </message>
-    <message>
         <source>put the service on DHCP and take a new lease</source>
         <translation>mettre le service en DHCP et prendre un nouveau bail</translation>
     </message>
@@ -517,24 +513,8 @@ Fonctionne sur&#xa0;: %2</translation>
         <translation>DNS&#xa0;:</translation>
     </message>
     <message>
-        <source>Preferred DNS:</source>
-        <translation>DNS préféré&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Alternate DNS:</source>
-        <translation>DNS auxiliaire&#xa0;:</translation>
-    </message>
-    <message>
         <source>Search Domains:</source>
         <translation>Domaines&#xa0;:</translation>
-    </message>
-    <message>
-        <source>DHCP Server:</source>
-        <translation>Serveur DHCP&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Computer Name:</source>
-        <translation>Ordinateur&#xa0;:</translation>
     </message>
     <message>
         <source>No saved profiles.</source>
@@ -573,6 +553,114 @@ Fonctionne sur&#xa0;: %2</translation>
             <numerusform>La modification sera annulée dans %n seconde. «&#xa0;ardeoctl confirm&#xa0;» la conserve, «&#xa0;ardeoctl undo&#xa0;» l’annule aussitôt.</numerusform>
             <numerusform>La modification sera annulée dans %n secondes. «&#xa0;ardeoctl confirm&#xa0;» la conserve, «&#xa0;ardeoctl undo&#xa0;» l’annule aussitôt.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>--profiles needs --profile.</source>
+        <translation>--profiles exige --profile.</translation>
+    </message>
+    <message>
+        <source>--dry-run changes nothing, and takes no --confirm-within.</source>
+        <translation>--dry-run ne change rien et n’accepte pas --confirm-within.</translation>
+    </message>
+    <message>
+        <source>the same with the settings of a saved profile, or of one that was exported</source>
+        <translation>de même avec les réglages d’un profil enregistré, ou d’un profil exporté</translation>
+    </message>
+    <message>
+        <source>one line for each change of a service, until it is ended</source>
+        <translation>une ligne pour chaque changement d’un service, jusqu’à l’arrêt</translation>
+    </message>
+    <message>
+        <source>For scripts (apply):</source>
+        <translation>Pour les scripts (apply)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>only say what would change; nobody is asked for a password</source>
+        <translation>dire seulement ce qui changerait&#x202f;; aucun mot de passe n’est demandé</translation>
+    </message>
+    <message>
+        <source>whether something has changed, and what</source>
+        <translation>si quelque chose a changé, et quoi</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>Impossible de lire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is no list of profiles.</source>
+        <translation>%1 n’est pas une liste de profils.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>IP Address</source>
+        <translation>Adresse IP</translation>
+    </message>
+    <message>
+        <source>Subnet Mask</source>
+        <translation>Masque</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>Passerelle</translation>
+    </message>
+    <message>
+        <source>Preferred DNS</source>
+        <translation>DNS préféré</translation>
+    </message>
+    <message>
+        <source>Alternate DNS</source>
+        <translation>DNS auxiliaire</translation>
+    </message>
+    <message>
+        <source>Search Domains</source>
+        <translation>Domaines</translation>
+    </message>
+    <message>
+        <source>DHCP Server</source>
+        <translation>Serveur DHCP</translation>
+    </message>
+    <message>
+        <source>Computer Name</source>
+        <translation>Ordinateur</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Nothing to do: &apos;%1&apos; has these settings already.</source>
+        <translation>Rien à faire&#xa0;: «&#xa0;%1&#xa0;» a déjà ces réglages.</translation>
+    </message>
+    <message>
+        <source>The settings are saved already, and would be brought into force.</source>
+        <translation>Les réglages sont déjà enregistrés et seraient mis en vigueur.</translation>
+    </message>
+    <message>
+        <source>Only settings that are not shown here would change.</source>
+        <translation>Seuls des réglages qui ne sont pas affichés ici changeraient.</translation>
+    </message>
+    <message>
+        <source>, on trial</source>
+        <translation>, à l’essai</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>The network service answers again.</source>
+        <translation>Le service réseau répond de nouveau.</translation>
+    </message>
+    <message>
+        <source>added, %1</source>
+        <translation>ajouté, %1</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>retiré</translation>
     </message>
 </context>
 <context>
