@@ -116,8 +116,12 @@ QCoro::Task<> MainViewModel::endTrial(bool keep)
     const Change change = [this, keep](const Text& serviceName, AuthorizationRef authorization) {
         return configService.endTrial(keep, serviceName, authorization);
     };
-    const auto settlingTime = keep ? 0s : applyDelay;
-    return carryOut({.change = change, .trial = 0s, .settlingTime = settlingTime, .tellsSuccess = keep});
+    const auto settlingTime =
+        keep ? std::chrono::milliseconds::zero() : std::chrono::milliseconds(applyDelay);
+    return carryOut({.change = change,
+                     .trial = std::chrono::seconds::zero(),
+                     .settlingTime = settlingTime,
+                     .tellsSuccess = keep});
 }
 
 void MainViewModel::clearFeedback()
@@ -149,7 +153,7 @@ QCoro::Task<> MainViewModel::carryOut(Action action)
         const QLatin1String right(adapter->isPersonal ? personalNetworkRight : systemNetworkRight);
         const AuthorizationRef authorization = authService.authorize(right);
         co_await action.change(adapter->serviceName, authorization);
-        if (action.trial > 0s)
+        if (action.trial > std::chrono::seconds::zero())
             guardTrial(adapter->serviceName, *action.trial, authorization);
     } catch (const DescribedError& error) {
         const auto* refusal = dynamic_cast<const ConfigError*>(&error);
@@ -180,7 +184,7 @@ QCoro::Task<> MainViewModel::guardTrial(Text serviceName, std::chrono::seconds t
     const QList<AdapterInfo> atFirst = co_await configService.listAdapters();
     if (const auto service = serviceIn(atFirst, serviceName); service && service->confirmBy)
         deadline = std::min(deadline, *service->confirmBy);
-    co_await m_platform.clock->sleep(std::max(0ms, deadline - now()));
+    co_await m_platform.clock->sleep(std::max(std::chrono::milliseconds::zero(), deadline - now()));
     for (int attempt = 1; attempt <= retries; ++attempt) {
         const QList<AdapterInfo> listed = co_await configService.listAdapters();
         const auto service = serviceIn(listed, serviceName);

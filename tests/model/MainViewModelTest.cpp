@@ -264,8 +264,9 @@ private Q_SLOTS:
         const auto attempt = [&](const char* ownWay, std::chrono::milliseconds seen) {
             system.calls.clear();
             fixture.platform.remoteInterface = [ownWay] { return QString::fromLatin1(ownWay); };
+            confirmBy = std::chrono::duration_cast<std::chrono::milliseconds>(
+                fixture.clock->continuousTime() + std::chrono::seconds(30));
             fixture.start([&] { return model.applyConfiguration(); });
-            confirmBy = 30s;
             for (int i = 0; i < 5; ++i) {
                 fixture.clock->advance(seen / 5);
                 QTest::qWait(10);

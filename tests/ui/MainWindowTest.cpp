@@ -621,7 +621,7 @@ private Q_SLOTS:
             if (confirms)
                 w.find<QAbstractButton>("Keep")->click();
             else
-                w.clock->advance(20s);
+                w.clock->advance(std::chrono::seconds(seconds()));
             w.finish();
             QTRY_VERIFY(!row());
             QTRY_COMPARE(w.model->ipAddress.value(), Text(u"10.20.0.8"_s));
@@ -903,7 +903,7 @@ private Q_SLOTS:
         }
         QCOMPARE(order.join(u','), u"Profile name,Cancel,Save,Profile name"_s);
         w.press(Qt::Key_Return); // on Cancel
-        QVERIFY(w.model->presetStore.presets().isEmpty() && (!sheet || !sheet->isVisible()));
+        QVERIFY(w.model->presetStore.presets().isEmpty() && !w.shows("Save Profile"));
 
         w.click("Save Profile…");
         w.click("Disable Adapter"); // as assistive technology can
