@@ -18,14 +18,14 @@ MenuBarExtra::MenuBarExtra(QMenu& menu, AppDelegate& appDelegate, const QString&
 
 bool MenuBarExtra::isPresent() const
 {
-    return m_icon && (m_isInTray ? m_area.hasTray() : m_area.hasNotifierHost());
+    return m_icon && (m_isInTray ? StatusArea::hasTray() : m_area.hasNotifierHost());
 }
 
 void MenuBarExtra::followArea()
 {
     // The toolkit settles once and for all, when the first icon is made, for a status notifier host or for
     // X11's tray. So nothing is made before one of them is there; later it comes and goes with that one.
-    if (!m_icon && (m_area.hasNotifierHost() || m_area.hasTray()))
+    if (!m_icon && (m_area.hasNotifierHost() || StatusArea::hasTray()))
         makeIcon();
     if (!isPresent())
         m_appDelegate.menuBarExtraDidVanish();

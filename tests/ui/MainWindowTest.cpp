@@ -598,7 +598,7 @@ private Q_SLOTS:
     void whoCameOverTheServiceHasToConfirm()
     {
         Window w;
-        const QString device = *w.model->selectedAdapter.value()->bsdName;
+        QString device = *w.model->selectedAdapter.value()->bsdName;
         w.platform.remoteInterface = [device] { return device; };
         const auto row = [&] { return w.find<QAbstractButton>("Keep") != nullptr; };
         const auto seconds = [&] {

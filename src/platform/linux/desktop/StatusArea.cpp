@@ -35,7 +35,7 @@ StatusArea::StatusArea(QObject* parent) : QObject(parent)
     askForHost();
 }
 
-bool StatusArea::hasTray() const
+bool StatusArea::hasTray()
 {
     return hasX11Tray();
 }

@@ -18,7 +18,7 @@ public:
     /// Whether a status notifier host would show an icon; false until the first changed.
     bool hasNotifierHost() const { return m_hasNotifierHost; }
     /// Whether an X11 tray would.
-    bool hasTray() const;
+    static bool hasTray();
 
 Q_SIGNALS:
     /// The bus has told whether a host is there, and either may have come or gone since.
