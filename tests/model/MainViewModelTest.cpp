@@ -266,11 +266,18 @@ private Q_SLOTS:
             fixture.platform.remoteInterface = [ownWay] { return QString::fromLatin1(ownWay); };
             confirmBy = std::chrono::duration_cast<std::chrono::milliseconds>(
                 fixture.clock->continuousTime() + std::chrono::seconds(30));
+            // One waits for the network to settle, and whoever guards a trial for its end.
+            const qsizetype waiting =
+                fixture.clock->sleepers() + (u"wlan0"_s == QLatin1String(ownWay) ? 2 : 1);
             fixture.start([&] { return model.applyConfiguration(); });
-            for (int i = 0; i < 5; ++i) {
-                fixture.clock->advance(seen / 5);
-                QTest::qWait(10);
-            }
+            if (!QTest::qWaitFor([&] { return fixture.clock->sleepers() == waiting; }))
+                return u"not applied"_s;
+            fixture.clock->advance(1s);
+            if (!QTest::qWaitFor([&] { return !model.isApplying.value(); }))
+                return u"not settled"_s;
+            fixture.clock->advance(seen - 1s);
+            if (!QTest::qWaitFor([&] { return !model.isLoading.value(); }))
+                return u"not read again"_s;
             return system.calls.join(u',')
                 .remove(u"open,lock,"_s)
                 .remove(u"set IPv4,set DNS,commit,apply,unlock"_s);
