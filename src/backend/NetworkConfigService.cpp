@@ -19,7 +19,7 @@ namespace
 constexpr std::chrono::milliseconds followUpTime(50);
 /// How long nothing is told after a change was told. With ten changes a second, reading again then takes a
 /// third of the 1 % of a core that it would take otherwise.
-constexpr std::chrono::milliseconds quietTime(500);
+constexpr std::chrono::milliseconds quietTime(600);
 
 /// What the system itself said of its last refusal.
 std::optional<SettingFault> refusalOf(const SystemConfiguration& system)

@@ -48,10 +48,13 @@ bool concernsServices(GVariant* arguments)
 
 ChangeSignals::ChangeSignals(GLibLoop& loop, GDBusConnection* bus) : m_bus(newRef(bus))
 {
-    const GDBusSignalCallback note = [](GDBusConnection*, const char*, const char*, const char*, const char*,
-                                        GVariant* arguments, gpointer self) {
+    const GDBusSignalCallback note = [](GDBusConnection*, const char*, const char*, const char*,
+                                        const char* signal, GVariant* arguments, gpointer self) {
+        if (!concernsServices(arguments))
+            return;
         auto* const signals = static_cast<ChangeSignals*>(self);
-        signals->m_hasChanged = signals->m_hasChanged || concernsServices(arguments);
+        signals->m_hasChanged = true;
+        signals->m_hasChangedOtherwise |= std::string_view(signal) != propertiesChanged;
     };
     loop.start([&] {
         for (const Source& source : sources)

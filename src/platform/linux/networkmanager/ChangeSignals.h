@@ -20,7 +20,10 @@ public:
 
     /// Whether something was told since the last clear.
     bool hasChanged() const { return m_hasChanged; }
-    void clear() { m_hasChanged = false; }
+    /// Whether that was but new values of what is known, which the client has taken in without asking for
+    /// more.
+    bool onlyValuesHaveChanged() const { return m_hasChanged && !m_hasChangedOtherwise; }
+    void clear() { m_hasChanged = m_hasChangedOtherwise = false; }
     /// Whether the bus has been lost, so that nothing more will be told.
     bool isOver() const { return g_dbus_connection_is_closed(m_bus.get()) != FALSE; }
 
@@ -28,6 +31,7 @@ private:
     GRef<GDBusConnection> m_bus;
     std::vector<guint> m_subscriptions;
     bool m_hasChanged = false;
+    bool m_hasChangedOtherwise = false;
 };
 
 } // namespace ardeo

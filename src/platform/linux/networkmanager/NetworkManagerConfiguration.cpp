@@ -6,6 +6,16 @@
 namespace ardeo
 {
 
+namespace
+{
+
+/// A list and a service are read within that time of a notice. To ask the daemon twice for each of them
+/// whether it has told everything took as much of the processor as all the rest of following, where addresses
+/// change all the time.
+constexpr int toldMilliseconds = 50;
+
+} // namespace
+
 std::shared_ptr<NetworkManagerSession> NetworkManagerConfiguration::session()
 {
     auto session = m_session.lock();
@@ -30,6 +40,7 @@ std::unique_ptr<Preferences>
 NetworkManagerConfiguration::createPreferencesWithAuthorization(const QString& /*name*/,
                                                                 AuthorizationRef /*authorization*/)
 {
+    m_view.toldUntil = {}; // it will be different
     auto current = session();
     m_status = current->client() ? SystemStatus::ok : SystemStatus::noStoreServer;
     if (m_status != SystemStatus::ok)
@@ -60,6 +71,8 @@ bool NetworkManagerConfiguration::awaitChange()
     m_view.loop.runUntil(QDeadlineTimer(changeInterval), isInterrupted);
     if (m_isInterrupted.exchange(false))
         return false;
+    if (signals->onlyValuesHaveChanged())
+        m_view.toldUntil.setRemainingTime(toldMilliseconds);
     signals->clear();
     return true;
 }

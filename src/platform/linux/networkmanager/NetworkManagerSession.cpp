@@ -50,11 +50,10 @@ NMClient* NetworkManagerSession::client()
 {
     if (std::exchange(m_asked, true))
         return m_view.client.get();
-    return m_view.client && catchUp() ? m_view.client.get() : connect();
+    const bool isTold = m_view.client && !m_view.toldUntil.hasExpired();
+    return isTold || (m_view.client && catchUp()) ? m_view.client.get() : connect();
 }
 
-/// The daemon answers in turn: what it told before comes before its answer. What is new makes the client ask
-/// for more, so that a second answer is waited for. False when the daemon is another one now, or none.
 GRef<NMConnection> NetworkManagerSession::read(NMRemoteConnection* profile, GLibError& error)
 {
     const GVariantRef answer = ask(profile, "GetSettings", nullptr, "(a{sa{sv}})", error);
@@ -64,6 +63,8 @@ GRef<NMConnection> NetworkManagerSession::read(NMRemoteConnection* profile, GLib
     return GRef<NMConnection>(nm_simple_connection_new_from_dbus(settings.get(), error.out()));
 }
 
+/// The daemon answers in turn: what it told before comes before its answer. What is new makes the client ask
+/// for more, so that a second answer is waited for. False when the daemon is another one now, or none.
 bool NetworkManagerSession::catchUp()
 {
     NMClient* const client = m_view.client.get();

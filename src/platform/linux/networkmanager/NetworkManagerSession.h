@@ -31,6 +31,8 @@ struct DaemonView {
     QString refusal;
     /// Null as long as nobody waits for changes.
     std::unique_ptr<ChangeSignals> signals;
+    /// Until then the client's view is what the daemon has just told by itself, so that nobody has to ask.
+    QDeadlineTimer toldUntil;
     /// May be read from any thread.
     std::atomic<DaemonPresence> presence = DaemonPresence::answers;
 };
