@@ -54,27 +54,17 @@ private Q_SLOTS:
 
     void presetsSurviveTheRoundTrip()
     {
-        const QList<NetworkPreset> presets{
-            {.name = u"Büro \"1\" \\ \U0001F310\n"_s, .ipv4Mode = IPv4Mode::manual},
-            {.name = u"Office"_s, .dnsMode = DNSMode::manual, .searchDomains = u"a/b  c"_s}};
-        const auto encoded = encodePresets(presets);
-        QVERIFY(encoded);
-        QCOMPARE(decodePresets(*encoded), presets);
-        QVERIFY(encoded->contains(R"("searchDomains":"a\/b  c")"));
-        QVERIFY(!encoded->contains('\n'));
-        QCOMPARE(*encodePresets({}), QByteArray("[]"));
+        const QList<NetworkPreset> presets{{.name = u"Büro \"1\" \\ \U0001F310\n"_s}, {.name = u"a  c"_s}};
+        QCOMPARE(decodePresets(encodePresets(presets).value_or("")), presets);
+        QCOMPARE(encodePresets({}), QByteArray("[]"));
         QVERIFY(!encodePresets({{.name = QString(QChar(0xD800))}}));
 
         const auto decoded = decodePresets('[' + QByteArray(complete) + ']');
-        QCOMPARE(decoded, (QList{NetworkPreset{.id = QUuid(u"0f0e0d0c-0b0a-4908-8706-050403020100"_s),
-                                               .name = u"Office"_s,
-                                               .serviceName = u"Wi-Fi"_s,
-                                               .ipv4Mode = IPv4Mode::manual,
-                                               .ipAddress = u"10.0.0.2"_s,
-                                               .subnetMask = u"255.0.0.0"_s,
-                                               .primaryDNS = u"1.1.1.1"_s,
-                                               .alternateDNS = u"9.9.9.9"_s,
-                                               .searchDomains = u"a/b"_s}}));
+        const QUuid id(u"0f0e0d0c-0b0a-4908-8706-050403020100"_s);
+        const NetworkPreset office{
+            id,    u"Office"_s,        u"Wi-Fi"_s,   IPv4Mode::manual, u"10.0.0.2"_s, u"255.0.0.0"_s,
+            u""_s, DNSMode::automatic, u"1.1.1.1"_s, u"9.9.9.9"_s,     u"a/b"_s};
+        QCOMPARE(decoded, QList{office});
         const auto written = QByteArray(complete).replace("0f0e0d0c-0b0a", "0F0E0D0C-0B0A");
         QCOMPARE(*encodePresets(*decoded), '[' + QByteArray(written).replace('/', R"(\/)") + ']');
     }

@@ -27,15 +27,13 @@ public:
         QMap<QString, std::optional<QVariant>> protocols = {{u"IPv4"_s, std::nullopt},
                                                             {u"DNS"_s, std::nullopt}};
         bool personal = false;
-        std::optional<std::chrono::milliseconds> confirmBy = {};
     };
 
-    bool preferencesAvailable = true;
-    bool setAvailable = true;
-    bool stateAvailable = true;
-    std::optional<QList<Service>> services = QList<Service>();
+    QList<Service> services;
     QMap<QString, QVariant> state;
     std::optional<QString> computerName = u"Test Machine"_s;
+    /// What there is none of: "preferences", "set", "services" or "state".
+    QStringList missing;
     /// Step ("lock", "commit", "apply") and the status that it is refused with.
     QMap<QString, qint32> refusals;
     QStringList calls;
@@ -43,12 +41,6 @@ public:
     AuthorizationRef authorization;
     /// Every operation waits for it; a test that takes it all stalls them.
     QSemaphore gate{1000};
-    /// Whether one gave up because the gate stayed closed: whoever was to open it was waiting itself.
-    std::atomic<bool> gaveUp = false;
-
-    /// Who holds the lock until it is released.
-    std::optional<LockHolder> lockHolder;
-    QSemaphore lockReleased;
 
     void rest() override { ++rests; }
     /// Tells whoever waits that something has changed.
@@ -65,21 +57,18 @@ public:
     }
     std::unique_ptr<Preferences> createPreferences(const QString& name) override
     {
-        pass();
-        return preferencesAvailable ? std::make_unique<FakePreferences>(*this, name) : nullptr;
+        return handle(name, u"preferences"_s);
     }
     std::unique_ptr<Preferences> createPreferencesWithAuthorization(const QString& name,
                                                                     AuthorizationRef reference) override
     {
-        pass();
         authorization = reference;
         calls << u"open"_s;
-        return preferencesAvailable ? std::make_unique<FakePreferences>(*this, name) : nullptr;
+        return handle(name, u"preferences"_s);
     }
-    std::unique_ptr<DynamicStore> createDynamicStore(const QString&) override
+    std::unique_ptr<DynamicStore> createDynamicStore(const QString& name) override
     {
-        pass();
-        return stateAvailable ? std::make_unique<FakeState>(*this) : nullptr;
+        return handle(name, u"state"_s);
     }
     qint32 error() const override { return m_status; }
 
@@ -120,7 +109,6 @@ private:
         bool isEnabled() const override { return service.enabled; }
         bool isPersonal() const override { return service.personal; }
         bool hasChanges() const override { return true; }
-        std::optional<std::chrono::milliseconds> confirmBy() const override { return service.confirmBy; }
         bool setEnabled(bool enabled) override
         {
             service.enabled = enabled;
@@ -139,46 +127,27 @@ private:
         FakeSystemConfiguration& system;
         Service& service;
     };
-    struct FakePreferences final : Preferences, NetworkSet {
-        FakePreferences(FakeSystemConfiguration& owner, const QString& name) : system(owner)
-        {
-            Q_ASSERT(name == u"Ardeo-IPConfig"_s);
-        }
+    /// Whatever is asked for.
+    struct Handle final : Preferences, NetworkSet, DynamicStore {
+        explicit Handle(FakeSystemConfiguration& owner) : system(owner) {}
         /// Its own, owned by nobody else: the preferences outlive what is got from them.
         std::shared_ptr<NetworkSet> currentSet() override
         {
-            return {std::shared_ptr<void>(), system.setAvailable ? this : nullptr};
+            return {std::shared_ptr<void>(), system.missing.contains(u"set"_s) ? nullptr : this};
         }
         std::optional<std::vector<std::shared_ptr<NetworkService>>> services() const override
         {
-            if (!system.services)
-                return std::nullopt;
             std::vector<std::shared_ptr<NetworkService>> list;
-            for (Service& service : *system.services)
+            for (Service& service : system.services)
                 list.push_back(std::make_shared<FakeService>(system, service));
-            return list;
+            return system.missing.contains(u"services"_s) ? std::nullopt : std::optional(list);
         }
-        bool lock(bool wait) override
-        {
-            if (system.lockHolder) {
-                system.waitingObserver()(system.lockHolder);
-                system.lockReleased.acquire();
-                system.waitingObserver()(std::nullopt);
-            }
-            return system.step(wait ? u"lock"_s : u"try lock"_s);
-        }
+        bool lock(bool wait) override { return system.step(wait ? u"lock"_s : u"try lock"_s); }
         bool commitChanges() override { return system.step(u"commit"_s); }
         bool applyChanges() override { return system.step(u"apply"_s); }
         void beginTrial(std::chrono::seconds time) override { system.step(u"try %1 s"_s.arg(time.count())); }
-        bool endTrial(const QString& serviceID, bool keep) override
-        {
-            return system.step((keep ? u"keep "_s : u"take back "_s) + serviceID);
-        }
+        bool endTrial(const QString&, bool keep) override { return system.step(keep ? u"keep"_s : u"end"_s); }
         bool unlock() override { return system.step(u"unlock"_s); }
-        FakeSystemConfiguration& system;
-    };
-    struct FakeState final : DynamicStore {
-        explicit FakeState(FakeSystemConfiguration& owner) : system(owner) {}
         std::optional<QVariant> value(const QString& key) override
         {
             return system.state.contains(key) ? std::optional(system.state.value(key)) : std::nullopt;
@@ -187,12 +156,12 @@ private:
         FakeSystemConfiguration& system;
     };
 
-    void pass()
+    std::unique_ptr<Handle> handle(const QString& name, const QString& what)
     {
-        if (gate.tryAcquire(1, 20'000))
-            gate.release();
-        else
-            gaveUp = true;
+        Q_ASSERT(name == u"Ardeo-IPConfig"_s);
+        gate.acquire();
+        gate.release();
+        return missing.contains(what) ? nullptr : std::make_unique<Handle>(*this);
     }
 
     bool step(const QString& name)

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QDirIterator>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 
 using namespace ardeo;
@@ -121,7 +122,7 @@ void dictionaries(const QByteArray& input)
     Invention invention(input);
     system.calls.clear();
     system.state.clear();
-    system.services.emplace();
+    system.services.clear();
     system.computerName = invention.maybeText();
     for (int left = invention.number(4); left > 0; --left) {
         FakeSystemConfiguration::Service made{.name = invention.maybeText(), .id = invention.text()};
@@ -135,7 +136,7 @@ void dictionaries(const QByteArray& input)
         system.state[interface + u"DHCP"_s] = invention.value();
         if (invention.number(4) == 0)
             made.id = made.interface->bsdName = std::nullopt;
-        system.services->append(made);
+        system.services.append(made);
     }
     const QList<AdapterInfo> adapters = service.listAdapters().result();
     promise(std::ranges::is_sorted(adapters, std::greater(), &AdapterInfo::isActive));
@@ -155,9 +156,9 @@ void octets(const QByteArray& input)
 {
     [[maybe_unused]] static const auto& application = *new QApplication(*new int(), nullptr);
     // One field for all inputs: making one takes far longer than most of them.
-    static auto& value = *new Observed<Text>;
+    static auto& value = *new Observed<Text>(Text(u"..."_s));
     static auto& field = *new IPAddressField(value, u"192.168.1.1"_s, u"IP Address:"_s);
-    value = Text();
+    value = Text(u"..."_s);
     QCoreApplication::sendPostedEvents();
     for (int i = 0; i < 4; ++i)
         field.octet(i)->setText({}); // there is nothing to undo any more
@@ -174,11 +175,13 @@ void octets(const QByteArray& input)
     while (!invention.atEnd()) {
         operations.at(static_cast<size_t>(invention.number(7)))();
         QCoreApplication::sendPostedEvents();
-        for (int i = 0; i < 4; ++i) {
-            const QString part = field.octet(i)->text();
-            promise(part.toUcs4().size() <= 3 && part.toInt() <= 255);
-            promise(value.value().string().split(u'.').value(i) == part);
-        }
+        QStringList parts;
+        for (int i = 0; i < 4; ++i)
+            parts << field.octet(i)->text();
+        promise(std::ranges::all_of(
+            parts, [](const QString& part) { return part.toUcs4().size() <= 3 && part.toInt() <= 255; }));
+        const QString found = value.value().string();
+        promise((found.isEmpty() ? u"..."_s : found) == parts.join(u'.'));
     }
 }
 
@@ -194,18 +197,26 @@ extern "C" int LLVMFuzzerTestOneInput(const uchar* data, size_t size)
 }
 
 #ifdef REPLAY
-/// Gives the target every file of a folder, where there is no libFuzzer to invent some.
+/// Gives the target every file of a folder, and what is drawn, where there is no libFuzzer to invent some.
 int main(int, char** arguments)
 {
+    const auto give = [](const QByteArray& input) {
+        LLVMFuzzerTestOneInput(reinterpret_cast<const uchar*>(input.constData()),
+                               static_cast<size_t>(input.size()));
+    };
     QDirIterator files(QString::fromLocal8Bit(arguments[1]), QDir::Files);
     promise(files.hasNext());
     while (files.hasNext()) {
         QFile file(files.next());
         promise(file.open(QIODevice::ReadOnly));
         qInfo("%s", qUtf8Printable(file.fileName()));
-        const QByteArray input = file.readAll();
-        LLVMFuzzerTestOneInput(reinterpret_cast<const uchar*>(input.constData()),
-                               static_cast<size_t>(input.size()));
+        give(file.readAll());
+    }
+    QRandomGenerator random(1);
+    for (int length = 1; length <= 300; ++length) {
+        QByteArray input(length, Qt::Uninitialized);
+        std::ranges::generate(input, [&] { return static_cast<char>(random.bounded(256)); });
+        give(input);
     }
 }
 #endif

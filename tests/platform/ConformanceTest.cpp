@@ -79,61 +79,29 @@ class ConformanceTest : public QObject
         const auto preferences = m_system.createPreferences(name);
         return find(*preferences, service)->protocol(type)->configuration()->toMap();
     }
-    std::optional<QVariant> state(const QString& key)
-    {
-        return m_system.createDynamicStore(name)->value(key);
-    }
     Dictionary live(const QString& service)
     {
         const auto preferences = m_system.createPreferences(name);
-        const QString id = *find(*preferences, service)->serviceID();
-        return state(u"State:/Network/Service/%1/IPv4"_s.arg(id)).value_or(QVariant()).toMap();
+        const QString key =
+            u"State:/Network/Service/%1/IPv4"_s.arg(*find(*preferences, service)->serviceID());
+        return m_system.createDynamicStore(name)->value(key).value_or(QVariant()).toMap();
     }
     /// The whole transaction; the status of the step that was refused, or 0.
-    qint32 change(const QString& service, const std::function<void(NetworkService&)>& step,
-                  std::optional<std::chrono::seconds> trial = {})
+    qint32 write(const QString& service, const Dictionary& addresses, const Dictionary& resolution = {})
     {
         const auto preferences = open();
         if (!preferences->lock(true))
             return m_system.error();
-        if (trial)
-            preferences->beginTrial(*trial);
-        step(*find(*preferences, service));
+        const auto found = find(*preferences, service);
+        found->protocol(ipv4)->setConfiguration(addresses);
+        found->protocol(dns)->setConfiguration(resolution);
         const bool done = preferences->commitChanges() && preferences->applyChanges();
         const qint32 status = m_system.error();
         preferences->unlock();
         return done ? 0 : status;
     }
-    qint32 write(const QString& service, const Dictionary& addresses, const Dictionary& resolution = {})
-    {
-        return change(service, [&](NetworkService& found) {
-            found.protocol(ipv4)->setConfiguration(addresses);
-            found.protocol(dns)->setConfiguration(resolution);
-        });
-    }
 
 private Q_SLOTS:
-    void servicesAreListedWithTheirState()
-    {
-        const auto preferences = m_system.createPreferences(name);
-        const auto wired = find(*preferences, m_wired);
-        QVERIFY(wired->isEnabled());
-        const QString device = *wired->interface()->bsdName();
-        QVERIFY(!wired->interface()->hardwareAddressString()->isEmpty());
-        QVERIFY(!wired->interface()->localizedDisplayName()->isEmpty());
-        const auto link = state(u"State:/Network/Interface/%1/Link"_s.arg(device))->toMap();
-        QCOMPARE(link[u"Active"_s], QVariant(true));
-        QCOMPARE(link[u"Duplex"_s], QVariant(true));
-        QCOMPARE(link[u"Speed"_s].typeId(), int(QMetaType::LongLong));
-        QVERIFY(
-            state(u"State:/Network/Interface/%1/DHCP"_s.arg(device))->toMap().contains(u"ServerAddress"_s));
-        QVERIFY(live(m_wired).contains(u"Router"_s));
-        QVERIFY(live(m_unplugged).isEmpty());
-        QVERIFY(!find(*preferences, m_vpn)->interface());
-        QVERIFY(!state(u"State:/Network/Interface/none/Link"_s));
-        QVERIFY(!m_system.createDynamicStore(name)->computerName()->isEmpty());
-    }
-
     void manualAndAutomaticTakeTurns()
     {
         const Dictionary idle = manual("10.99.0.2", "255.255.255.0");
@@ -197,41 +165,6 @@ private Q_SLOTS:
         first.reset(); // gives its lock up
         QVERIFY(second->lock(false));
         QCOMPARE(refusal(second->commitChanges()), qint32(SystemStatus::stale));
-    }
-
-    void aTrialEndsAsItIsTold()
-    {
-        const Dictionary tried = manual("10.77.0.63", "255.255.255.0", "10.77.0.1");
-        constexpr std::chrono::seconds time(60);
-        const auto endTrial = [this](bool keep) {
-            const auto preferences = open();
-            const QString id = *find(*preferences, m_wired)->serviceID();
-            const bool done = preferences->lock(true) && preferences->endTrial(id, keep);
-            return done ? 0 : m_system.error();
-        };
-        const auto deadline = [this] {
-            return find(*m_system.createPreferences(name), m_wired)->confirmBy();
-        };
-        const auto onTrial = [&](const QString& service) {
-            const auto step = [&](NetworkService& found) { found.protocol(ipv4)->setConfiguration(tried); };
-            return change(service, step, time);
-        };
-        for (const bool keep : {false, true}) {
-            QCOMPARE(onTrial(m_wired), 0);
-            QTRY_COMPARE(live(m_wired), inForce(tried));
-            const auto left =
-                deadline().value_or(std::chrono::milliseconds::zero()) - m_platform.clock->continuousTime();
-            QVERIFY(left > time / 2 && left <= time);
-            QCOMPARE(onTrial(m_wired), qint32(SystemStatus::preferencesBusy));
-            QCOMPARE(endTrial(keep), 0);
-            QCOMPARE(saved(m_wired, ipv4), keep ? tried : dhcp);
-            QTRY_COMPARE(live(m_wired) == inForce(tried), keep);
-            QVERIFY(live(m_wired).contains(u"Router"_s) && !deadline());
-            QCOMPARE(endTrial(keep), qint32(SystemStatus::noKey));
-        }
-        QCOMPARE(write(m_wired, dhcp), 0);
-        // Nothing that the daemon could take back by itself.
-        QCOMPARE(onTrial(m_vpn), m_real ? qint32(SystemStatus::failed) : 0);
     }
 
     void whatOthersDoIsSeenAtOnce()

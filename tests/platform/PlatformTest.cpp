@@ -96,9 +96,6 @@ private Q_SLOTS:
 
     void aFormChangesOnlyWhatItShows()
     {
-        const auto dictionary = [](const char* json) {
-            return QJsonDocument::fromJson(QByteArray(json).replace('\'', '"')).toVariant().toMap();
-        };
         // What there is, what the form asks for, and what comes of it.
         const struct {
             Dictionary (*differences)(const Dictionary&, const Dictionary&);
@@ -106,21 +103,20 @@ private Q_SLOTS:
         } rows[]{
             {&ipv4Differences, "{'ConfigMethod':'shared'}", "{'ConfigMethod':'DHCP'}",
              "{'ConfigMethod':'shared'}"},
-            {&ipv4Differences, "{'ConfigMethod':'DHCP','Addresses':['10.0.0.3'],'SubnetMasks':['255.0.0.0']}",
-             "{'ConfigMethod':'Manual','Addresses':['10.0.0.4'],'SubnetMasks':['255.0.0.0']}",
-             "{'ConfigMethod':'Manual','Addresses':['10.0.0.4'],'SubnetMasks':['255.0.0.0']}"},
+            {&ipv4Differences, "{'ConfigMethod':'DHCP','Addresses':['1.1.1.1'],'SubnetMasks':['255.0.0.0']}",
+             "{'ConfigMethod':'Manual','Addresses':['1.1.1.2'],'SubnetMasks':['255.0.0.0']}",
+             "{'ConfigMethod':'Manual','Addresses':['1.1.1.2'],'SubnetMasks':['255.0.0.0']}"},
             {&ipv4Differences,
-             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3','10.0.0.5'],'SubnetMasks':['255.0.0.0','255.0."
-             "0.0'],"
-             "'Router':'10.0.0.1'}",
-             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3'],'SubnetMasks':['255.0.0.0']}",
-             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3','10.0.0.5'],'SubnetMasks':['255.0.0.0','255.0."
-             "0.0']}"},
+             "{'ConfigMethod':'Manual','Addresses':['1.1.1.1','1.1.1.2'],'SubnetMasks':['255.0.0.0','255.0.0."
+             "0'],'Router':'1.1.1.9'}",
+             "{'ConfigMethod':'Manual','Addresses':['1.1.1.1'],'SubnetMasks':['255.0.0.0']}",
+             "{'ConfigMethod':'Manual','Addresses':['1.1.1.1','1.1.1.2'],'SubnetMasks':['255.0.0.0','255.0.0."
+             "0']}"},
             {&ipv4Differences,
-             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3','10.0.0.5'],'SubnetMasks':['255.0.0.0','255.0."
-             "0.0']}",
-             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3'],'SubnetMasks':['255.255.0.0']}",
-             "{'ConfigMethod':'Manual','Addresses':['10.0.0.3'],'SubnetMasks':['255.255.0.0']}"},
+             "{'ConfigMethod':'Manual','Addresses':['1.1.1.1','1.1.1.2'],'SubnetMasks':['255.0.0.0','255.0.0."
+             "0']}",
+             "{'ConfigMethod':'Manual','Addresses':['1.1.1.1'],'SubnetMasks':['255.255.0.0']}",
+             "{'ConfigMethod':'Manual','Addresses':['1.1.1.1'],'SubnetMasks':['255.255.0.0']}"},
             {&dnsDifferences, "{'ServerAddresses':['1.1.1.1','2.2.2.2','3.3.3.3'],'SearchDomains':['a']}",
              "{'ServerAddresses':['1.1.1.1','2.2.2.2'],'SearchDomains':['b']}",
              "{'ServerAddresses':['1.1.1.1','2.2.2.2','3.3.3.3'],'SearchDomains':['b']}"},
@@ -128,12 +124,11 @@ private Q_SLOTS:
             {&dnsDifferences, "{'SearchDomains':['a']}", "{}", "{'SearchDomains':['a']}"},
         };
         for (const auto& row : rows) {
-            const auto asRead = [&](const char* json) {
-                Dictionary read = dictionary(json);
-                for (QVariant& value : read) {
-                    if (value.typeId() == QMetaType::QVariantList)
-                        value = value.toStringList();
-                }
+            const auto asRead = [](const char* json) {
+                Dictionary read =
+                    QJsonDocument::fromJson(QByteArray(json).replace('\'', '"')).toVariant().toMap();
+                for (QVariant& value : read)
+                    value = value.typeId() == QMetaType::QVariantList ? value.toStringList() : value;
                 return read;
             };
             const Dictionary present = asRead(row.present);
