@@ -2,30 +2,25 @@
 
 failures=0
 
-# holds WHAT COMMAND...: the command succeeds.
-holds() {
-    local what=$1
-    shift
-    if "$@" >/dev/null 2>&1; then
-        echo "ok      $what"
-    else
-        echo "FAILED  $what: $*"
-        failures=$((failures + 1))
-    fi
+# verdict STATUS WHAT DETAILS
+verdict() {
+    [[ $1 != 0 ]] || { echo "ok      $2" && return; }
+    echo "FAILED  $2:$3"
+    failures=$((failures + 1))
 }
 
-# fails WHAT COMMAND...: the command does not succeed.
+# holds WHAT COMMAND...: the command succeeds; fails: it does not.
+holds() {
+    "${@:2}" >/dev/null 2>&1
+    verdict $? "$1" " ${*:2}"
+}
 fails() { holds "$1" not "${@:2}"; }
 not() { ! "$@"; }
 
 # equal WHAT EXPECTED ACTUAL
 equal() {
-    if [[ $2 == "$3" ]]; then
-        echo "ok      $1"
-    else
-        printf 'FAILED  %s:\n        expected %q\n        is       %q\n' "$1" "$2" "$3"
-        failures=$((failures + 1))
-    fi
+    [[ $2 == "$3" ]]
+    verdict $? "$1" "$(printf '\n        expected %q\n        is       %q' "$2" "$3")"
 }
 
 # wait_for COMMAND...: until the command succeeds, at most twenty seconds.

@@ -366,6 +366,7 @@ private Q_SLOTS:
     {
         Window w;
         MainViewModel& m = *w.model;
+        // By their first words.
         const auto enabled = [&] {
             QStringList names;
             for (const char* name :
@@ -373,7 +374,7 @@ private Q_SLOTS:
                   "Enable Adapter", "Save Profile…", "Export profiles to file"}) {
                 const auto* button = w.find<QAbstractButton>(name);
                 if (button && button->isEnabled())
-                    names << QString::fromUtf8(name);
+                    names << QString::fromUtf8(name).section(u' ', 0, 0);
             }
             return names.join(u',');
         };
@@ -381,11 +382,11 @@ private Q_SLOTS:
             QStringList names;
             for (const QAction* item : w.window->findChild<QMenuBar*>()->findChildren<QAction*>()) {
                 if (!item->isSeparator() && !item->isEnabled())
-                    names << item->text();
+                    names << item->text().section(u' ', 0, 0);
             }
             return names.join(u',');
         };
-        QVERIFY(!enabled().contains(u"Export"_s));
+        QCOMPARE(enabled(), u"Refresh,Apply,Renew,Disable,Save"_s);
         w.addProfiles();
         using Selected = std::optional<AdapterInfo>;
         const Selected on = m.selectedAdapter.value();
@@ -395,23 +396,16 @@ private Q_SLOTS:
         const NetworkAdapterInfo manual{.ipv4Mode = IPv4Mode::manual};
         // The form has no say in the menus.
         for (const auto& [selected, live, isApplying, isLoading, buttons, menus] :
-             {std::tuple(on, automatic, false, false,
-                         "Refresh,Apply,Renew DHCP,Disable Adapter,Save Profile…,Export profiles to file",
-                         "Enable Adapter"),
-              {off, manual, false, false,
-               "Refresh,Apply,Revert,Enable Adapter,Save Profile…,Export profiles to file",
-               "Renew DHCP,Disable Adapter"},
-              {on, automatic, true, false, "Refresh,Save Profile…,Export profiles to file",
-               "Apply,Enable Adapter"},
-              {on, manual, false, true, "Revert,Disable Adapter,Save Profile…,Export profiles to file",
-               "Apply,Renew DHCP,Enable Adapter"},
-              {Selected(), automatic, false, false, "Refresh,Export profiles to file",
-               "Apply,Renew DHCP,Enable Adapter,Disable Adapter"}}) {
+             {std::tuple(on, automatic, false, false, "Refresh,Apply,Renew,Disable,Save,Export", "Enable"),
+              {off, manual, false, false, "Refresh,Apply,Revert,Enable,Save,Export", "Renew,Disable"},
+              {on, automatic, true, false, "Refresh,Save,Export", "Apply,Enable"},
+              {on, manual, false, true, "Revert,Disable,Save,Export", "Apply,Renew,Enable"},
+              {Selected(), automatic, false, false, "Refresh,Export", "Apply,Renew,Enable,Disable"}}) {
             m.selectedAdapter = selected;
             m.currentConfig = live;
             m.isApplying = isApplying;
             m.isLoading = isLoading;
-            QCOMPARE(enabled(), QString::fromUtf8(buttons));
+            QCOMPARE(enabled(), QLatin1String(buttons));
             QCOMPARE(disabledInMenus(), QLatin1String(menus));
             QCOMPARE(w.shows("Loading…"), isLoading);
         }
@@ -459,15 +453,12 @@ private Q_SLOTS:
         w.model->dnsMode = DNSMode::manual;
         w.model->ipv4Mode = IPv4Mode::manual;
         w.addProfiles();
-        int controls = 0;
         for (QWidget* widget : w.window->findChildren<QWidget*>()) {
             if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus || qobject_cast<QLabel*>(widget))
                 continue;
             QVERIFY2(!nameOf(widget).isEmpty(), widget->metaObject()->className());
             QVERIFY(QAccessible::queryAccessibleInterface(widget)->role() != QAccessible::Client);
-            ++controls;
         }
-        QVERIFY(controls > 20);
         QCOMPARE(QAccessible::queryAccessibleInterface(w.list())->child(1)->text(QAccessible::Name),
                  u"Office, Manual · "_s);
 
@@ -765,23 +756,6 @@ private Q_SLOTS:
         QCOMPARE(w.list()->currentIndex().row(), last - 1);
     }
 
-    void disablingAsksFirst()
-    {
-        Window w;
-        auto* button = w.find<QAbstractButton>("Disable Adapter");
-        button->setFocus();
-        w.press("Space");
-        QVERIFY(w.shows("Disable Ethernet?") && w.shows("This will disconnect Ethernet from the network."));
-        w.press("Return");
-        QVERIFY(!w.model->isApplying.value() && button->hasFocus());
-        w.press("Space, Tab, Return");
-        w.finish();
-        QVERIFY(!w.model->selectedAdapter.value()->isEnabled && button->hasFocus());
-        w.click("Enable Adapter");
-        w.finish();
-        QVERIFY(w.find<QAbstractButton>("Disable Adapter"));
-    }
-
     void sheetsKeepTheirWindowFromBeingUsed()
     {
         Window w;
@@ -810,6 +784,18 @@ private Q_SLOTS:
         w.click("Save Profile…");
         w.click("Disable Adapter"); // as assistive technology can
         QVERIFY(w.shows("Disable Ethernet?") && !w.shows("Save Profile"));
+        QVERIFY(w.shows("This will disconnect Ethernet from the network."));
+        w.press("Return"); // which is no consent
+        auto* button = w.find<QAbstractButton>("Disable Adapter");
+        button->setFocus();
+        w.press("Space, Return");
+        QVERIFY(!w.model->isApplying.value() && button->hasFocus());
+        w.press("Space, Tab, Return");
+        w.finish();
+        QVERIFY(!w.model->selectedAdapter.value()->isEnabled && button->hasFocus());
+        w.click("Enable Adapter");
+        w.finish();
+        QVERIFY(w.find<QAbstractButton>("Disable Adapter"));
     }
 
     void closedWindowComesBackAsItWas()
