@@ -57,8 +57,8 @@ private Q_SLOTS:
         FakeSystemConfiguration system;
         Service twin = named("E\u0301th"); // equal to the other one when composed
         twin.enabled = false;
-        system.services = {named("iPhone USB"), named("Wi-Fi"), named("Éth"), named("Ethernet"), twin,
-                           Service{},           wifi()};
+        system.services = {named("iPhone USB"), named("Wi-Fi"), named("Éth"),        named("Ethernet"), twin,
+                           Service{},           wifi(),         named("\U0001F310"), named("\uFF21")};
         system.state[wifiState] = Dictionary{{u"Addresses"_s, QStringList(u"10.0.0.2"_s)}};
         NetworkConfigService service(system);
         QStringList listed;
@@ -66,7 +66,7 @@ private Q_SLOTS:
         for (const AdapterInfo& adapter : adapters)
             listed << adapter.serviceName;
         QCOMPARE(listed, (QStringList{u"Wi-Fi"_s, u"Ethernet"_s, u"Wi-Fi"_s, u"iPhone USB"_s, u"Éth"_s,
-                                      u"E\u0301th"_s}));
+                                      u"E\u0301th"_s, u"\uFF21"_s, u"\U0001F310"_s}));
         QVERIFY(adapters.first().isActive);
         QCOMPARE(adapters.first().macAddress, Text(u"02:00"_s));
         QVERIFY(adapters[4].isEnabled && !adapters[5].isEnabled);

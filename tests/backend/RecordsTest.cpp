@@ -42,16 +42,6 @@ private Q_SLOTS:
         QVERIFY(one != other);
     }
 
-    void textsAreOrderedByScalarValues()
-    {
-        const QStringList ordered{u"Ethernet"_s, u"Wi-Fi"_s,  u"iPhone USB"_s,
-                                  u"e\u0301"_s,  u"\uFF21"_s, u"\U0001F310"_s};
-        for (qsizetype i = 0; i + 1 < ordered.size(); ++i) {
-            QVERIFY2(comesBefore(ordered[i], ordered[i + 1]), qPrintable(ordered[i]));
-            QVERIFY(!comesBefore(ordered[i + 1], ordered[i]));
-        }
-    }
-
     void presetsSurviveTheRoundTrip()
     {
         const QList<NetworkPreset> presets{{.name = u"Büro \"1\" \\ \U0001F310\n"_s}, {.name = u"a  c"_s}};

@@ -92,7 +92,7 @@ private:
 
 /// What is wrong with the texts in a window: cut, beside their place, of another system, or, where that is
 /// to be seen, neither translated nor among the data.
-QStringList faultsOfTexts(QWidget* window, bool isMarked = false, const QString& data = {})
+QStringList faultsOfTexts(QWidget* window, bool isMarked, const QString& data)
 {
     static const QRegularExpression foreign(u"Mac\\b|macOS|⌘|⇧|\\{"_s);
     static const QRegularExpression untranslated(u"^(?!Ctrl|Ardeo IP Config$)[^\\[]*[A-Za-z][^\\[]*$"_s);
@@ -360,6 +360,11 @@ private Q_SLOTS:
         QCOMPARE(shown, u"12345"_s);
         QCOMPARE(w.model->subnetMask.value(), Text(u"2.2.2.2"_s));
         QVERIFY(!qobject_cast<QLineEdit*>(w.window->focusWidget())); // a field that appears takes no focus
+        const Text given(u"256.1"_s);
+        w.model->subnetMask = given;
+        QCOMPARE(w.model->subnetMask.value(), given); // not in the middle of an assignment
+        QCoreApplication::processEvents();
+        QCOMPARE(w.model->subnetMask.value(), Text(u"255.1.."_s));
     }
 
     void controlsAndMenusFollowTheModel()
