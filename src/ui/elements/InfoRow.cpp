@@ -24,20 +24,19 @@ public:
     {
         m_value = value;
         setAccessibleName(value);
-        updateGeometry();
-        fit();
+        measure();
     }
     // The toolkit asks the lines as they are drawn, and lays them out, and draws them, anew.
-    QSize sizeHint() const override { return sizeForWidth(QWIDGETSIZE_MAX); }
+    QSize sizeHint() const override { return m_size; }
     QSize minimumSizeHint() const override
     {
         // Addresses are never cut.
         const int longest = fontMetrics().horizontalAdvance(QStringLiteral("255.255.255.255"));
-        return {std::min(sizeForWidth(0).width(), longest), sizeHint().height()};
+        return {std::min(sizeForWidth(0).width(), longest), m_size.height()};
     }
     int heightForWidth(int width) const override
     {
-        return sizeForWidth(isCutIn(width) ? QWIDGETSIZE_MAX : width).height();
+        return isCutIn(width) ? m_size.height() : sizeForWidth(width).height();
     }
 
 protected:
@@ -50,7 +49,7 @@ protected:
     {
         TextLabel::changeEvent(event);
         if (event->type() == QEvent::FontChange)
-            fit();
+            measure();
     }
     void focusInEvent(QFocusEvent* event) override
     {
@@ -76,7 +75,14 @@ protected:
     }
 
 private:
-    QSize sizeForWidth(int width) const
+    void measure()
+    {
+        m_size = linesIn(QWIDGETSIZE_MAX);
+        updateGeometry();
+        fit();
+    }
+    QSize sizeForWidth(int width) const { return width < m_size.width() ? linesIn(width) : m_size; }
+    QSize linesIn(int width) const
     {
         const QRect page(0, 0, width, QWIDGETSIZE_MAX);
         return fontMetrics().boundingRect(page, Qt::TextWordWrap, m_value).size();
@@ -98,6 +104,8 @@ private:
 
     /// All of it, of which the text shows what there is room for.
     QString m_value;
+    /// What that takes unbroken. Kept, because the layouts ask a dozen times for each new value.
+    QSize m_size;
 };
 
 InfoRow::InfoRow(const QString& label, const QString& value, bool monospaced, QWidget* parent)
