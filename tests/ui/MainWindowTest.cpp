@@ -862,8 +862,8 @@ private Q_SLOTS:
         FakeClock clock;
         HelpView help(clock);
         ShortcutsView shortcuts(shortcutSections(), clock);
-        for (auto& [page, text] : {std::pair<QWidget*, QString>(&help, u"NetworkManager"_s),
-                                   {&shortcuts, u"Ctrl + Shift + I"_s}}) {
+        for (const auto& [page, text] : {std::pair<QWidget*, QString>(&help, u"NetworkManager"_s),
+                                         {&shortcuts, u"Ctrl + Shift + I"_s}}) {
             page->resize(page->width(), 300);
             page->show();
             page->activateWindow();
@@ -876,9 +876,9 @@ private Q_SLOTS:
             QTest::keyClick(page->windowHandle(), Qt::Key_PageDown);
             QVERIFY(bar->value() > 200 && bar->value() < 290);
             const auto labels = page->findChildren<QLabel*>();
-            QCOMPARE(
-                std::ranges::count_if(labels, [&](QLabel* label) { return label->text().contains(text); }),
-                1);
+            QCOMPARE(std::ranges::count_if(
+                         labels, [wanted = text](QLabel* label) { return label->text().contains(wanted); }),
+                     1);
         }
     }
 
