@@ -60,7 +60,7 @@ int main(int, char** arguments)
         int status = 0;
         for (const auto whole = random() % 60; begun <= whole && waitpid(child, &status, WNOHANG) == 0;)
             sched_yield();
-        for (auto turns = random() % 2'000; turns > 0; --turns)
+        for (auto turns = random() % 400; turns > 0; --turns)
             sched_yield();
         ::kill(child, SIGKILL);
         waitpid(child, &status, 0);

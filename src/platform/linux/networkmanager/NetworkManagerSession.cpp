@@ -136,9 +136,11 @@ GVariantRef NetworkManagerSession::call(const char* path, const char* interface,
                                    G_DBUS_CALL_FLAGS_NO_AUTO_START, G_MAXINT, cancellable, done, data);
         });
     GVariantRef answer(g_dbus_connection_call_finish(bus, ended.get(), error.out()));
-    if (!answer)
+    m_view.refusal.clear();
+    if (!answer && g_dbus_error_is_remote_error(error.get())) {
         g_dbus_error_strip_remote_error(error.get());
-    m_view.refusal = answer ? QString() : QString::fromUtf8(error.get()->message);
+        m_view.refusal = QString::fromUtf8(error.get()->message);
+    }
     return answer;
 }
 
