@@ -132,7 +132,7 @@ private:
     /// In JSON the date as such, for people the time of day where they are.
     QString time() const
     {
-        const QDateTime epoch(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+        const QDateTime epoch = QDateTime::fromString(QStringLiteral("2001-01-01T00:00:00Z"), Qt::ISODate);
         const QDateTime now = epoch.addMSecs(qint64(m_platform.clock->referenceTime() * 1000));
         return m_asJson ? now.toString(Qt::ISODate) : now.toLocalTime().toString(QStringLiteral("HH:mm:ss"));
     }

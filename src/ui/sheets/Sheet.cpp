@@ -19,12 +19,16 @@ constexpr int padding = 24;
 constexpr int shadowReach = 16;
 constexpr int shadowDrop = 4;
 
+QColor outline(const Colours& colours)
+{
+    return colours.separator;
+}
+
 } // namespace
 
 Sheet::Sheet(const QString& title, int width, QWidget* window)
     : QDialog(window, Qt::SubWindow) // within which the Tab key goes round
-    , m_panel(new MaterialPanel(
-          radius, [](const Colours& colours) { return colours.separator; }, this))
+    , m_panel(new MaterialPanel(radius, &outline, this))
 {
     for (auto* other : window->findChildren<Sheet*>()) {
         if (other != this && other->isVisible())
